@@ -1,0 +1,345 @@
+#include "engine/dictionary_store.h"
+
+#include <array>
+#include <fstream>
+#include <system_error>
+
+#include "text/font_text.h"
+
+namespace vorlexa {
+
+using namespace literals;
+
+std::string_view trimBlanks(std::string_view s) {
+    const auto first = s.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    const auto last = s.find_last_not_of(' ');
+    return s.substr(first, last - first + 1);
+}
+
+std::string_view mid(std::string_view s, std::size_t start, std::size_t length) {
+    if (start == 0 || start > s.size()) return {};
+    return s.substr(start - 1, length);
+}
+
+std::string DictRecord::tag() const {
+    std::string t(trimBlanks(mid(raw, 41, kTagWidth)));
+    t.resize(kTagWidth, ' ');
+    return t;
+}
+
+namespace {
+std::string padded(std::string_view s, std::size_t width) {
+    std::string out(s.substr(0, width));
+    out.resize(width, ' ');
+    return out;
+}
+}  // namespace
+
+DictRecord DictRecord::make(std::string_view key, std::string_view gloss, std::string_view tag) {
+    DictRecord r;
+    r.raw = padded(key, kKeyWidth) + padded(gloss, kGlossWidth) + padded(tag, kTagWidth);
+    return r;
+}
+
+DictRecord DictRecord::null() {
+    DictRecord r;
+    r.raw = padded(kNullKey, kRecordLength);
+    return r;
+}
+
+int skizbeColumn(std::string_view word) {
+    if (word.size() >= 2 && word[0] >= 'a' && word[0] <= 'z' && word[1] >= 'a' && word[1] <= 'z')
+        return 26 * (word[0] - 'a') + (word[1] - 'a' + 1);
+    return kEnglishOddColumn;
+}
+
+namespace {
+
+// Letter index 0..37 of a small Armenian letter code, -1 otherwise.
+constexpr int smallIndex(unsigned char c) {
+    return font::isSmall(c) ? (c - font::kFirstSmall) / 2 : -1;
+}
+
+constexpr int letterIndexOf(std::string_view oneLetter) {
+    return smallIndex(static_cast<unsigned char>(oneLetter[0]));
+}
+
+// The classes of first letters, in the order of their rows; paired letters share a class.
+constexpr std::array<std::string_view, 23> kFirstClasses = {
+    "ա"_ft,  "բ"_ft,  "գ"_ft,  "դ"_ft,  "ե"_ft,  "զ"_ft,  "է"_ft,  "ոը"_ft,
+    "թչ"_ft, "պժ"_ft, "իջ"_ft, "լռ"_ft, "խս"_ft, "վծ"_ft, "կտ"_ft, "հր"_ft,
+    "ձց"_ft, "ղ"_ft,  "փճ"_ft, "մք"_ft, "օյ"_ft, "նֆ"_ft, "շ"_ft};
+
+// Where each first-letter row begins.
+constexpr std::array<int, 23> kRowStarts = {1,   24,  48,  71,  93,  116, 139, 162,
+                                            185, 208, 231, 254, 278, 301, 324, 347,
+                                            370, 393, 416, 439, 464, 487, 510};
+
+// The order of second letters within a row; "և" shares the class of "բ".
+constexpr std::array<std::string_view, 23> kSecondClasses = {
+    "ա"_ft,  "բև"_ft, "ցձ"_ft, "դ"_ft,  "ե"_ft,  "շ"_ft,  "գ"_ft,  "հր"_ft,
+    "իջ"_ft, "պժ"_ft, "կտ"_ft, "լռ"_ft, "մք"_ft, "նֆ"_ft, "օյ"_ft, "փճ"_ft,
+    "ղ"_ft,  "խս"_ft, "թչ"_ft, "վծ"_ft, "ոը"_ft, "է"_ft,  "զ"_ft};
+
+template <std::size_t N>
+constexpr int classOf(const std::array<std::string_view, N>& classes, unsigned char c) {
+    for (std::size_t i = 0; i < N; ++i)
+        for (const char member : classes[i])
+            if (static_cast<unsigned char>(member) == c) return static_cast<int>(i);
+    return -1;
+}
+
+}  // namespace
+
+int skizbaColumn(std::string_view word) {
+    if (word.size() < 2) return kArmenianOddColumn;
+    const auto c1 = static_cast<unsigned char>(word[0]);
+    const auto c2 = static_cast<unsigned char>(word[1]);
+    if (word.substr(0, 2) == "ու"_ft) return kArmenianOuColumn;
+    const int row = classOf(kFirstClasses, c1);
+    const int col = classOf(kSecondClasses, c2);
+    if (row < 0 || col < 0) return kArmenianOddColumn;
+    // Rows are about 23 columns long; a long row simply runs into the next one, which a hash
+    // grid allows, and the last row ends at 533 below the two special columns.
+    const int column = kRowStarts[row] + col;
+    return column > kArmenianOuColumn - 1 ? kArmenianOuColumn - 1 : column;
+}
+
+bool hasArmenianLetter(std::string_view word) {
+    for (const char ch : word) {
+        const auto c = static_cast<unsigned char>(ch);
+        if (font::isArmenianLetter(c) || c == font::kLigature) return true;
+    }
+    return false;
+}
+
+// --- RecordFile -------------------------------------------------------------------------------
+
+bool RecordFile::open(const std::filesystem::path& path, int recordLength) {
+    path_ = path;
+    recordLength_ = recordLength;
+    bytes_.clear();
+    open_ = false;
+    std::error_code ec;
+    if (!std::filesystem::exists(path, ec)) {
+        std::ofstream create(path, std::ios::binary);
+        if (!create) return false;
+    }
+    std::ifstream in(path, std::ios::binary);
+    if (!in) return false;
+    bytes_.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    open_ = true;
+    return true;
+}
+
+double RecordFile::recordCountExact() const {
+    return static_cast<double>(bytes_.size()) / recordLength_;
+}
+
+std::int64_t RecordFile::recordCount() const {
+    return static_cast<std::int64_t>(bytes_.size() / static_cast<std::uint64_t>(recordLength_));
+}
+
+std::string RecordFile::read(std::int64_t n) const {
+    std::string rec(static_cast<std::size_t>(recordLength_), ' ');
+    if (n < 1) return rec;
+    const std::uint64_t from = static_cast<std::uint64_t>(n - 1) * recordLength_;
+    if (from >= bytes_.size()) return rec;
+    const std::uint64_t len = std::min<std::uint64_t>(recordLength_, bytes_.size() - from);
+    rec.replace(0, len, bytes_, from, len);
+    return rec;
+}
+
+bool RecordFile::write(std::int64_t n, std::string_view record) {
+    if (!open_ || n < 1) return false;
+    const std::uint64_t from = static_cast<std::uint64_t>(n - 1) * recordLength_;
+    const std::uint64_t oldSize = bytes_.size();
+    if (bytes_.size() < from + recordLength_) bytes_.resize(from + recordLength_, ' ');
+    std::string rec(record.substr(0, recordLength_));
+    rec.resize(recordLength_, ' ');
+    bytes_.replace(from, recordLength_, rec);
+    if (!writeThrough_) return true;
+    return flushRange(std::min(oldSize, from), from + recordLength_);
+}
+
+bool RecordFile::replaceAll(std::string_view bytes) {
+    bytes_.assign(bytes);
+    std::ofstream out(path_, std::ios::binary | std::ios::trunc);
+    out.write(bytes_.data(), static_cast<std::streamsize>(bytes_.size()));
+    out.flush();
+    return static_cast<bool>(out);
+}
+
+bool RecordFile::setWriteThrough(bool on) {
+    writeThrough_ = on;
+    return on ? replaceAll(std::string(bytes_)) : true;
+}
+
+bool RecordFile::flushRange(std::uint64_t from, std::uint64_t to) {
+    std::fstream out(path_, std::ios::binary | std::ios::in | std::ios::out);
+    if (!out) return false;
+    out.seekp(static_cast<std::streamoff>(from));
+    out.write(bytes_.data() + from, static_cast<std::streamsize>(to - from));
+    out.flush();
+    return static_cast<bool>(out);
+}
+
+// --- DictionaryStore --------------------------------------------------------------------------
+
+bool DictionaryStore::open(const std::filesystem::path& folder) {
+    folder_ = folder;
+    const bool e = english_.open(folder / kEnglishDictName, kRecordLength);
+    const bool a = armenian_.open(folder / kArmenianDictName, kRecordLength);
+    return e && a;
+}
+
+std::optional<std::int64_t> DictionaryStore::findEnglish(std::string_view word) const {
+    const double limit = english_.recordCountExact();
+    DictRecord r;
+    for (std::int64_t rec = skizbeColumn(word); rec <= limit; rec += kEnglishStride) {
+        r.raw = english_.read(rec);
+        if (r.isNull()) return std::nullopt;
+        if (r.key() == word) return rec;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::int64_t> DictionaryStore::findArmenian(std::string_view word) const {
+    const double limit = armenian_.recordCountExact();
+    DictRecord r;
+    for (std::int64_t rec = skizbaColumn(word); rec <= limit; rec += kArmenianStride) {
+        r.raw = armenian_.read(rec);
+        if (r.key() == word) {
+            if (r.isNull()) return std::nullopt;
+            return rec;
+        }
+    }
+    return std::nullopt;
+}
+
+namespace {
+// Rewrites `to` as the flat list of the records of `from` that carry a real gloss.
+bool copyRealRecords(const RecordFile& from, RecordFile& to) {
+    std::string out;
+    for (std::int64_t rec = 1; rec <= from.recordCountExact(); ++rec) {
+        const std::string r = from.read(rec);
+        // An empty record compares blanks with blanks; "null" closes a column.
+        if (mid(r, 1, 20) == mid(r, 26, 20) || mid(r, 1, 4) == kNullKey) continue;
+        out += r;
+    }
+    return to.replaceAll(out);
+}
+}  // namespace
+
+bool DictionaryStore::CreateDicStrings() {
+    RecordFile stringea;
+    RecordFile stringae;
+    if (!stringea.open(folder_ / kEnglishStringsName, kRecordLength)) return false;
+    if (!stringae.open(folder_ / kArmenianStringsName, kRecordLength)) return false;
+    const bool e = copyRealRecords(english_, stringea);
+    const bool a = copyRealRecords(armenian_, stringae);
+    return e && a;
+}
+
+void DictionaryStore::deleteDerivedFiles() {
+    std::error_code ignored;
+    std::filesystem::remove(folder_ / kEnglishStringsName, ignored);
+    std::filesystem::remove(folder_ / kArmenianStringsName, ignored);
+}
+
+int strideOf(Direction d) {
+    return d == Direction::EnglishToArmenian ? kEnglishStride : kArmenianStride;
+}
+
+int columnOf(Direction d, std::string_view key) {
+    return d == Direction::EnglishToArmenian ? skizbeColumn(key) : skizbaColumn(key);
+}
+
+bool createEmptyDictionary(RecordFile& file, int stride) {
+    std::string row;
+    row.reserve(static_cast<std::size_t>(stride) * kRecordLength);
+    for (int i = 0; i < stride; ++i) row += DictRecord::null().raw;
+    return file.replaceAll(row);
+}
+
+namespace {
+// The gloss as the insertion stores it: English lower-cased; Armenian in small letters with the
+// ligature for "եւ".
+std::string normaliseGloss(Direction direction, std::string_view gloss) {
+    std::string g(gloss.substr(0, kGlossWidth));
+    if (direction == Direction::ArmenianToEnglish) {
+        for (char& ch : g)
+            if (ch >= 'A' && ch <= 'Z') ch = static_cast<char>(ch + 32);
+        return g;
+    }
+    g = foldArmenianCase(g);
+    const std::string_view eyew = "եւ"_ft;
+    for (std::size_t at = g.find(eyew); at != std::string::npos; at = g.find(eyew, at))
+        g.replace(at, eyew.size(), "և"_ft);
+    return g;
+}
+}  // namespace
+
+std::optional<std::int64_t> insertRecord(RecordFile& file, Direction direction, std::string_view key,
+                                         std::string_view gloss, std::string_view tag,
+                                         std::string* error) {
+    const std::string k(key.substr(0, kKeyWidth));
+    const DictRecord record = DictRecord::make(k, normaliseGloss(direction, gloss), tag);
+    const int stride = strideOf(direction);
+    DictRecord slot;
+    for (std::int64_t rec = columnOf(direction, trimBlanks(k)); rec <= file.recordCountExact();
+         rec += stride) {
+        slot.raw = file.read(rec);
+        const bool freed = slot.isFreed();
+        if (!freed && !slot.isNull()) continue;
+        // A freed slot is simply reused; at the end record the column is closed again below.
+        const bool ok = file.write(rec, record.raw) &&
+                        (freed || file.write(rec + stride, DictRecord::null().raw));
+        if (ok) return rec;
+        if (error) *error = "cannot write " + file.path().string();
+        return std::nullopt;
+    }
+    if (error) *error = "the column has no free slot and no end record";
+    return std::nullopt;
+}
+
+InsertResult insertWordPair(DictionaryStore& store, Direction direction, std::string_view key,
+                            std::string_view gloss, std::string_view tag) {
+    InsertResult result;
+    result.record = insertRecord(store.source(direction), direction, key, gloss, tag, &result.error);
+    if (!result.record) return result;
+
+    // A gloss that is a phrase, an alternative or a part of a word makes no reverse entry.
+    const std::string g = normaliseGloss(direction, gloss);
+    const std::string_view reverseKey = trimBlanks(g);
+    if (reverseKey.empty() || reverseKey.find_first_of(" /()-") != std::string_view::npos) {
+        result.reverseSkipped = true;
+        return result;
+    }
+    const Direction other = direction == Direction::EnglishToArmenian ? Direction::ArmenianToEnglish
+                                                                      : Direction::EnglishToArmenian;
+    RecordFile& target = store.source(other);
+    const int otherStride = strideOf(other);
+    // Freed slots are not reused here, unlike the insertion above.
+    DictRecord slot;
+    for (std::int64_t rec = columnOf(other, reverseKey); rec <= target.recordCountExact();
+         rec += otherStride) {
+        slot.raw = target.read(rec);
+        if (slot.key() == reverseKey) {
+            result.reverseSkipped = true;
+            return result;
+        }
+        if (slot.isNull()) {
+            const DictRecord reverse = DictRecord::make(reverseKey, trimBlanks(key.substr(0, kKeyWidth)), tag);
+            if (target.write(rec, reverse.raw) && target.write(rec + otherStride, DictRecord::null().raw))
+                result.reverseRecord = rec;
+            else
+                result.error = "cannot write " + target.path().string();
+            return result;
+        }
+    }
+    return result;
+}
+
+}  // namespace vorlexa

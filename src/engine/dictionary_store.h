@@ -1,0 +1,163 @@
+// The dictionary store: two files of fixed 45-character records laid out as a hash grid.
+//
+// A word's first two characters pick a column; the column is the chain of records c, c + stride,
+// c + 2 x stride ... and ends in a "null" record. Order within a column is insertion order, and
+// the first record that matches wins, so a later word can never shadow an older one.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vorlexa {
+
+inline constexpr int kRecordLength = 45;  // 20 key + 20 gloss + 5 tag, one byte per character
+inline constexpr int kKeyWidth = 20;      // the widest word a record can hold
+inline constexpr int kGlossWidth = 20;    // longer glosses are stored cut
+inline constexpr int kTagWidth = 5;
+inline constexpr int kTermRecordLength = 20;    // a record of the run's list of unknown words
+inline constexpr int kEnglishStride = 676;      // columns of dictionarye-a: "aa".."zz"
+inline constexpr int kArmenianStride = 535;     // columns of dictionarya-e
+inline constexpr int kEnglishOddColumn = 674;   // the column of "zx", shared by all odd keys
+inline constexpr int kArmenianOuColumn = 534;   // the pair "ու" alone
+inline constexpr int kArmenianOddColumn = 535;  // one-letter words, capitals, signs
+
+inline constexpr std::string_view kNullKey = "null";
+inline constexpr std::string_view kFreedKey = "wwwwwwwwwwwwwwwwwwww";
+
+// File names in the working folder.
+inline constexpr std::string_view kEnglishDictName = "dictionarye-a";
+inline constexpr std::string_view kArmenianDictName = "dictionarya-e";
+inline constexpr std::string_view kEnglishStringsName = "Stringea";
+inline constexpr std::string_view kArmenianStringsName = "Stringae";
+inline constexpr std::string_view kTermsFileName = "zhamanakavor";
+
+// Trim as the records are compared: blanks only, both ends.
+std::string_view trimBlanks(std::string_view s);
+
+// A slice of a record or any text, 1-based like the engine's positions; past the end it yields
+// what is there or the empty string.
+std::string_view mid(std::string_view s, std::size_t start, std::size_t length = std::string_view::npos);
+
+// One 45-character record and the fields the engine compares.
+struct DictRecord {
+    std::string raw = std::string(kRecordLength, ' ');
+
+    std::string_view key() const { return trimBlanks(mid(raw, 1, kKeyWidth)); }
+    std::string_view gloss() const { return trimBlanks(mid(raw, 21, kGlossWidth)); }
+    // The trimmed tag held in a five-character buffer again: a tag "n" reads "n    ".
+    std::string tag() const;
+    bool isNull() const { return trimBlanks(raw) == kNullKey; }
+    bool isFreed() const { return mid(raw, 1, kKeyWidth) == kFreedKey; }
+
+    static DictRecord make(std::string_view key, std::string_view gloss, std::string_view tag);
+    static DictRecord null();
+};
+
+// English key function: the column of the first two characters, 1..676.
+int skizbeColumn(std::string_view word);
+// Armenian key function: the column of the first two font characters, 1..535.
+int skizbaColumn(std::string_view word);
+// True when the word holds an Armenian letter (and so is looked up in the Armenian grid).
+bool hasArmenianLetter(std::string_view word);
+
+// A random-access file of fixed-length records. The records are kept in memory in file order;
+// every write goes through to disk before the call returns.
+class RecordFile {
+public:
+    RecordFile() = default;
+    RecordFile(const RecordFile&) = delete;
+    RecordFile& operator=(const RecordFile&) = delete;
+    RecordFile(RecordFile&&) = default;
+    RecordFile& operator=(RecordFile&&) = default;
+
+    // Opens the file, creating it empty when it is missing. False only when it can't be made.
+    bool open(const std::filesystem::path& path, int recordLength);
+    bool isOpen() const { return open_; }
+    const std::filesystem::path& path() const { return path_; }
+    int recordLength() const { return recordLength_; }
+
+    // File length / record length, a floating division as the walk's upper bound uses it.
+    double recordCountExact() const;
+    // The last whole record number.
+    std::int64_t recordCount() const;
+    std::uint64_t byteLength() const { return bytes_.size(); }
+
+    // Record n (1-based), blank-padded past the end of the file.
+    std::string read(std::int64_t n) const;
+    // Writes record n, growing the file with blank records as needed. False on a disk error.
+    bool write(std::int64_t n, std::string_view record);
+    // Replaces the whole file by these bytes.
+    bool replaceAll(std::string_view bytes);
+    // Off: writes stay in memory (a bulk build); turning it back on writes the file once.
+    bool setWriteThrough(bool on);
+
+private:
+    bool flushRange(std::uint64_t from, std::uint64_t to);
+
+    std::filesystem::path path_;
+    int recordLength_ = kRecordLength;
+    std::string bytes_;
+    bool open_ = false;
+    bool writeThrough_ = true;
+};
+
+enum class Direction { EnglishToArmenian = 0, ArmenianToEnglish = 1 };
+
+// The two dictionaries of the working folder, open from start to exit.
+class DictionaryStore {
+public:
+    bool open(const std::filesystem::path& folder);
+    const std::filesystem::path& folder() const { return folder_; }
+
+    RecordFile& english() { return english_; }    // dictionarye-a
+    RecordFile& armenian() { return armenian_; }  // dictionarya-e
+    const RecordFile& english() const { return english_; }
+    const RecordFile& armenian() const { return armenian_; }
+    RecordFile& source(Direction d) { return d == Direction::EnglishToArmenian ? english_ : armenian_; }
+
+    // The walks with their exact-key test. English: the "null" test comes first and ends the
+    // walk. Armenian: the key is compared first, and only a matching record is tested for
+    // "null"; the walk otherwise runs to the end of the file.
+    std::optional<std::int64_t> findEnglish(std::string_view word) const;
+    std::optional<std::int64_t> findArmenian(std::string_view word) const;
+
+    // Builds Stringea and Stringae: the records that carry a real gloss, gap-free.
+    bool CreateDicStrings();
+    void deleteDerivedFiles();
+
+private:
+    std::filesystem::path folder_;
+    RecordFile english_;
+    RecordFile armenian_;
+};
+
+int strideOf(Direction d);
+int columnOf(Direction d, std::string_view key);
+
+// The outcome of an insertion.
+struct InsertResult {
+    std::optional<std::int64_t> record;          // where the pair was written
+    std::optional<std::int64_t> reverseRecord;   // where the reverse pair was written
+    bool reverseSkipped = false;                 // the gloss can't be a key, or is one already
+    std::string error;                           // why nothing was written
+};
+
+// Steps of an insertion without the reverse entry: the pair goes to the first freed slot or to
+// the end record of its column, which moves one stride down. Returns the record number.
+std::optional<std::int64_t> insertRecord(RecordFile& file, Direction direction, std::string_view key,
+                                         std::string_view gloss, std::string_view tag,
+                                         std::string* error = nullptr);
+
+// Stores a word pair in the source dictionary of `direction` and its reverse entry in the other.
+// The key, gloss and tag are font text as typed; they are blank-padded or cut to their widths.
+InsertResult insertWordPair(DictionaryStore& store, Direction direction, std::string_view key,
+                            std::string_view gloss, std::string_view tag);
+
+// Writes a fresh dictionary: one row of "null" records, one per column.
+bool createEmptyDictionary(RecordFile& file, int stride);
+
+}  // namespace vorlexa

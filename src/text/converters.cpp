@@ -1,0 +1,94 @@
+#include "text/converters.h"
+
+#include <fstream>
+#include <thread>
+
+namespace vorlexa {
+
+namespace {
+constexpr char16_t kFirstCapitalU = 1329;  // U+0531 Ա
+constexpr char16_t kLastCapitalU = 1366;   // U+0556 Ֆ
+constexpr char16_t kFirstSmallU = 1377;    // U+0561 ա
+constexpr char16_t kLastU = 1414;          // U+0586 ֆ
+}  // namespace
+
+// The design runs one global replacement per Unicode value, in rising order. No replacement
+// produces a value that a later one looks for, so a single pass gives the same text.
+void UnicodeAnsciConverter(std::u16string& ConverterText) {
+    for (char16_t& u : ConverterText) {
+        if (u >= kFirstSmallU && u <= kLastU) {
+            u = static_cast<char16_t>((u - 1198) + (u - 1377));
+        } else if (u >= kFirstCapitalU && u <= kLastCapitalU) {
+            u = static_cast<char16_t>((u - 1151) + (u - 1329));
+        } else if (u == 0x0587 || u == 0x0588) {
+            u = 0xA8;  // U+0588 too, though it is no assigned letter
+        } else if (u == 0x0589) {
+            u = ':';
+        }
+    }
+}
+
+void AnsciUnicodeConverter(std::u16string& ConverterText) {
+    for (char16_t& c : ConverterText) {
+        if (c >= 178 && c <= 253) {
+            c = (c % 2 == 0) ? static_cast<char16_t>((c + 1151) - (c - 178) / 2)
+                             : static_cast<char16_t>((c + 1198) - (c - 179) / 2);
+        } else if (c == 177) {
+            c = 0x055E;
+        } else if (c == 168) {
+            c = 0x0587;
+        }
+    }
+}
+
+int bdali(int c) {
+    if (c % 2 == 1) return (c - 82) - (c - 179) / 2;
+    return (c - 129) - (c - 178) / 2;
+}
+
+void encd_Click(std::string_view DialogText, const std::filesystem::path& encPath) {
+    std::ofstream enc(encPath, std::ios::binary | std::ios::trunc);
+    enc << "255\r\n254\r\n";
+    for (const char ch : DialogText) {
+        const int c = static_cast<unsigned char>(ch);
+        int low = c;
+        int high = 0;
+        if (c == 167 || c == 168) {  // 167 too: « is written as the ligature
+            low = 135, high = 5;
+        } else if (c == 177) {
+            low = 94, high = 5;
+        } else if (c > 177) {
+            low = bdali(c), high = 5;
+        }
+        enc << low << "\r\n" << high << "\r\n";
+    }
+}
+
+bool decd_Click(const std::filesystem::path& encPath, std::string& Utf16Body) {
+    std::ifstream enc(encPath, std::ios::binary);
+    if (!enc) return false;
+    std::string line;
+    while (std::getline(enc, line)) {
+        if (!line.empty() && line.back() == '\r') line.pop_back();
+        if (line.empty()) continue;
+        Utf16Body += static_cast<char>(std::stoi(line) & 0xFF);
+    }
+    return true;
+}
+
+bool ResultANSCIToUnicode(std::string_view DialogText, std::ostream& file9, std::string& Utf16Body,
+                          const Utf16Export& options) {
+    encd_Click(DialogText, options.encPath);
+    if (options.sleep)
+        options.sleep(kEncSettleTime);
+    else
+        std::this_thread::sleep_for(kEncSettleTime);
+    const bool read = decd_Click(options.encPath, Utf16Body);
+    if (read && !options.aas) file9 << Utf16Body;
+    file9.flush();
+    std::error_code ignored;
+    std::filesystem::remove(options.encPath, ignored);
+    return read;
+}
+
+}  // namespace vorlexa
