@@ -20,6 +20,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 
 #include "engine/dictionary_store.h"
 #include "engine/host.h"
@@ -43,6 +44,7 @@ enum class TriggerReturn {
 // Counts kept for the coverage report; they change nothing in the translation.
 struct RunStatistics {
     std::int64_t unknownOccurrences = 0;      // times an unknown word was left in the text
+    std::int64_t termsWritten = 0;            // words written to the TermsFile
     bool collectUnknownWords = false;         // also count each unknown word by itself
     std::map<FontText, std::int64_t> unknownWords;
 };
@@ -234,14 +236,16 @@ public:
 
 private:
     void openTermsFile();
+    void refuseUnknownWordQuestions();
     bool scanTurn();  // one turn of the scanner; false when the scanner must leave
-    void wordEndTail(unsigned char c, bool haveC);
+    void wordEndTail(int c);
     void sentenceEnd(unsigned char c);
     void progressStep();
     bool matchEnglishRecord(std::string_view key) const;
     void emitWordT();
 
     int lastProgress_ = -1;
+    std::unordered_set<FontText> termsIndex_;  // the TermsFile's words of this run, for the search
 };
 
 }  // namespace vorlexa

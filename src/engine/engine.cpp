@@ -1,0 +1,191 @@
+// The run: set-up from the source pane, the direction guess, and the resets of the engine state.
+#include "engine/engine.h"
+
+#include <system_error>
+
+namespace vorlexa {
+
+using namespace literals;
+
+namespace {
+
+constexpr double kUnicodeQuestionShare = 60.0;  // percent of "?": Unicode pasted into a byte box
+constexpr double kQuoteLetterShare = 4.0;       // percent of '"': the quote writes the letter "ե"
+
+// Replaces each double blank by one blank in a single left-to-right pass, so that three blanks
+// become two.
+FontText foldDoubleBlanks(std::string_view text) {
+    FontText out;
+    out.reserve(text.size() + 1);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        out += text[i];
+        if (text[i] == ' ' && i + 1 < text.size() && text[i + 1] == ' ') ++i;
+    }
+    return out;
+}
+
+bool isLatinLetter(unsigned char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+
+}  // namespace
+
+Engine::Engine(DictionaryStore& dictionaries, std::filesystem::path folder, Host& windowHost)
+    : store(dictionaries), host(windowHost), dataFolder(std::move(folder)) {}
+
+void Engine::openTermsFile() {
+    TermsFile = RecordFile();
+    TermsFile.open(dataFolder / kTermsFileName, kTermRecordLength);
+    termsIndex_.clear();
+    for (std::int64_t n = 1; n < TermCount; ++n)
+        termsIndex_.insert(FontText(trimBlanks(TermsFile.read(n))));
+}
+
+void Engine::Text3_Change(const FontText& text) {
+    if (checked(MenuItem::EdtTr)) host.setChecked(MenuItem::EdtTr, false);
+    QuoteCount = 0;
+    QuestionCount = 0;
+    openTermsFile();
+
+    // The scanner needs a delimiter after the last word.
+    SourceText = foldDoubleBlanks(text);
+    if (SourceText.empty() || SourceText.back() != ' ') SourceText += ' ';
+
+    EnglishCount = 1;
+    ArmenianCount = 1;
+    TimeOfStart = std::chrono::steady_clock::now();
+    OutputText.clear();
+    host.setResultText({});
+
+    std::int64_t questions = 0;
+    std::int64_t quotes = 0;
+    for (auto it = SourceText.rbegin(); it != SourceText.rend(); ++it) {
+        const auto c = static_cast<unsigned char>(*it);
+        if (c == '?') ++questions;
+        else if (c == '"') ++quotes;
+        else if (isLatinLetter(c) || c == '!' || c == '&') ++EnglishCount;
+        else if (font::isArmenianLetter(c)) ++ArmenianCount;
+    }
+    QuestionCount = static_cast<int>(questions);
+    QuoteCount = static_cast<int>(quotes);
+    const double length = static_cast<double>(SourceText.size());
+
+    if (static_cast<double>(questions) / length * 100.0 >= kUnicodeQuestionShare) {
+        host.notify(Notice{{FontText("Armenian text is UNICODE.\r\nClick 'Ctrl+V' after 'OK' to continue."),
+                            FontText("Հայերեն տեքստը UNICODE է:"_ft) + "\r\n" +
+                                FontText("Շարունակության համար 'OK'-ից հետո սեղմեք 'Ctrl+V':"_ft)},
+                           {}});
+        host.openConverter();
+        host.setBusy(true);
+        host.setResultText(FontText("ՈՒՇԱԴՐՈՒԹՅՈՒՆ!!!! ԹԱՐԳՄԱՆՈՒԹՅՈՒՆԸ ՍՏԱՆԱԼՈՒ ՀԱՄԱՐ ՍԵՂՄԵ'Ք 'Ctrl+V':"_ft) +
+                           "\r\nATTENTION!!!!  CLICK 'Ctrl +V' TO RECIEVE THE TRANSLATION.");
+        return;
+    }
+
+    if (EnglishCount > ArmenianCount) {
+        Check1 = 0;
+        host.setTitle(SpellMode == 1 ? Wording{"ENGLISH SPELLCHECKER", FontText("Սխալների ուղղում` անգլերենով"_ft)}
+                                     : Wording{"Translating from English to Armenian",
+                                               FontText("Թարգմանում է անգլերենից հայերեն:"_ft)});
+    } else {
+        Check1 = 1;
+        if (static_cast<double>(quotes) / length * 100.0 >= kQuoteLetterShare) QuoteCount = "ե"_ft;
+        host.setTitle(SpellMode == 1 ? Wording{"ARMENIAN SPELLCHECKER", FontText("Սխալների ուղղում` հայերենով"_ft)}
+                                     : Wording{"Translating from Armenian to English",
+                                               FontText("Թարգմանում է հայերենից անգլերեն:"_ft)});
+    }
+
+    if (!checked(MenuItem::ITR)) host.showProgress(true);
+    lastProgress_ = -1;
+    ScanPos = 1;
+    ankap0_DblClick();
+    EnglishCount = 1;
+    ArmenianCount = 1;
+}
+
+void Engine::resumeRun() {
+    if (state != RunState::Waiting) return;
+    AnswerCode = kAnswerNo;
+    ankap0_DblClick();
+}
+
+InsertResult Engine::saveWordAndResume(std::string_view key, std::string_view gloss, std::string_view tag) {
+    const InsertResult result = insertWordPair(
+        store, Check1 == 0 ? Direction::EnglishToArmenian : Direction::ArmenianToEnglish, key, gloss, tag);
+    resumeRun();
+    return result;
+}
+
+void Engine::resetWord() {
+    CurrentWord.clear();
+    WordGloss.clear();
+    ToMark.clear();
+    VerbFormMark.clear();
+    CapitalFlag.clear();
+    GenitiveMark.clear();
+}
+
+void Engine::resetSentence() {
+    ClauseStartFlag.clear();
+    PendingCopula.clear();
+    ModalFlag.clear();
+    NegationMark.clear();
+    AdverbFlag.clear();
+    ClassChain.clear();
+    PendingEnding.clear();
+    ArticleEnding.clear();
+    PerfectFlag.clear();
+    ThirdPersonFlag.clear();
+    LinkFlag.clear();
+    PersonCode.clear();
+    DoFlag.clear();
+    ImperativeFlag.clear();
+    ContractionFlag.clear();
+    HaveForm.clear();
+    ToMark.clear();
+    SecondLook.clear();
+    SentenceClasses.clear();
+    DefiniteState = 0;
+    HeldConjunction.clear();
+    InsertText.clear();
+    CopulaUsedMark.clear();
+    LastSeenWord.clear();
+    WhileFlag.clear();
+    EnglishAuxBack = 0;
+    IndefiniteFlag.clear();
+    AfterHaveBeen.clear();
+    CanFlag.clear();
+    PendingPlural.clear();
+    QuestionAsked.clear();
+    NounEndingSeen.clear();
+    ExcludeFinalS.clear();
+    AbleFlag.clear();
+    ParticipleGuess.clear();
+    QuestionMarkHold.clear();
+    QuestionMarkPosition = 0;
+    GenitiveMark.clear();
+
+    FutureParticle.clear();
+    CaseEndingSeen.clear();
+    SingularPast.clear();
+    SecondPersonEnding.clear();
+    ThirdPersonEnding.clear();
+    LessPrefix.clear();
+    PassiveStemSeen.clear();
+    CausativeVerb.clear();
+    ProgressiveNext.clear();
+    TransitiveNext.clear();
+    PrepositionNext.clear();
+}
+
+void Engine::resetRun() {
+    SpellMode.clear();
+    AskedOnceMark.clear();
+    FirstUnknownAnswer = 0;
+    UnknownCount = 0;
+    AnswerCode = 0;
+    PhraseTail.clear();
+    RawWord.clear();
+    TermCount = 1;
+    termsIndex_.clear();
+}
+
+}  // namespace vorlexa

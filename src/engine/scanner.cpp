@@ -1,0 +1,487 @@
+// The token scanner: ankap0_DblClick walks SourceText one character a turn, builds CurrentWord,
+// and at each delimiter hands the word to the trigger dispatch and the look-up, attaches the
+// pending endings and copies the delimiter to the output. There is no token list: rules move
+// ScanPos over the words they use.
+#include <algorithm>
+#include <array>
+
+#include "engine/engine.h"
+#include "engine/scanner.h"
+
+namespace vorlexa {
+
+using namespace literals;
+
+namespace {
+
+constexpr unsigned char kLatinOpenGuillemet = 0xAB;  // "«" as typed in the Latin code page
+constexpr unsigned char kCR = '\r';
+constexpr unsigned char kLF = '\n';
+constexpr int kNoChar = -1;  // a position outside the text
+
+constexpr std::string_view kDelimiterList = std::string_view(
+    " -\r\n[,.:;\xA7\xA6}?!1234856790\x91/@$#%~=]^*\\{+|()\t<>'\x85\x92\x93\x94`\x96\xAA_");
+constexpr std::string_view kCopiedList = std::string_view(
+    "{[><\r\n\x91- \t,;\x85\\/+|1234567890@($#%~=^*\x92\x93\x94\"')}]\xA7\xA6");
+
+struct CharTable {
+    std::array<bool, 256> in{};
+    constexpr explicit CharTable(std::string_view chars, char extra = 0) {
+        for (char c : chars) in[static_cast<unsigned char>(c)] = true;
+        if (extra) in[static_cast<unsigned char>(extra)] = true;
+    }
+};
+
+constexpr CharTable kDelimiters(kDelimiterList);
+constexpr CharTable kRawDelimiters(kDelimiterList, '"');
+constexpr CharTable kCopied(kCopiedList);
+
+// Characters after which the endings of a number stay pending.
+constexpr bool keepsEndingsPending(int c) {
+    return isAsciiDigit(c) || c == '.' || c == '%' || c == '\'' || c == '(' || c == ')' || c == '-' ||
+           c == '"' || c == font::kEnDash;
+}
+
+bool endsWithAny(std::string_view s, std::initializer_list<std::string_view> tails) {
+    return std::any_of(tails.begin(), tails.end(), [&](std::string_view t) { return s.ends_with(t); });
+}
+
+bool oneOf(std::string_view s, std::initializer_list<std::string_view> words) {
+    return std::find(words.begin(), words.end(), s) != words.end();
+}
+
+void replaceAll(std::string& s, std::string_view from, std::string_view to) {
+    std::size_t pos = 0;
+    while ((pos = s.find(from, pos)) != std::string::npos) {
+        s.replace(pos, from.size(), to);
+        pos += to.size();
+    }
+}
+
+void replaceTail(std::string& s, std::string_view tail, std::string_view with) {
+    if (s.ends_with(tail)) s.replace(s.size() - tail.size(), tail.size(), with);
+}
+
+}  // namespace
+
+bool isWordDelimiter(unsigned char c) { return kDelimiters.in[c]; }
+bool isRawWordDelimiter(unsigned char c) { return kRawDelimiters.in[c]; }
+bool isCopiedDelimiter(unsigned char c) { return kCopied.in[c]; }
+
+std::int64_t countWords(std::string_view text) {
+    std::int64_t words = 0;
+    bool inWord = false;
+    for (char ch : text) {
+        const bool delimiter = isRawWordDelimiter(static_cast<unsigned char>(ch));
+        if (!delimiter && !inWord) ++words;
+        inWord = !delimiter;
+    }
+    return words;
+}
+
+void Engine::ankap0_DblClick() {
+    state = RunState::Running;
+    while (ScanPos <= static_cast<std::int64_t>(SourceText.size())) {
+        const bool goOn = scanTurn();
+        progressStep();
+        if (!goOn) {
+            state = RunState::Waiting;
+            return;
+        }
+    }
+    TransEndProcedure();
+    state = RunState::Idle;
+}
+
+void Engine::progressStep() {
+    if (checked(MenuItem::ITR) || SourceText.empty()) return;
+    const double share = static_cast<double>(ScanPos) / static_cast<double>(SourceText.size()) * 100.0;
+    const int percent = std::clamp(static_cast<int>(share), 0, 100);
+    // The bar shows the same value for many characters; the host hears only the changes.
+    if (percent != lastProgress_) {
+        lastProgress_ = percent;
+        host.setProgress(percent);
+    }
+}
+
+void Engine::mecatarer() {
+    const auto len = static_cast<std::int64_t>(SourceText.size());
+    while (ScanPos >= 1 && ScanPos <= len) {
+        const auto c = static_cast<unsigned char>(SourceText[static_cast<std::size_t>(ScanPos - 1)]);
+        if (Check1 == 1) {
+            if (c < font::kFirstCapital || c % 2 != 0) return;  // capitals: even codes from 178 up
+            CapitalFlag = 1;
+            CurrentWord += static_cast<char>(c + 1);
+        } else {
+            if (c < 'A' || c > 'Z') return;
+            CapitalFlag = 1;
+            CurrentWord += static_cast<char>(c + 32);
+        }
+        ++ScanPos;
+    }
+}
+
+void Engine::InternetWhile() {
+    const auto len = static_cast<std::int64_t>(SourceText.size());
+    while (ScanPos >= 1 && ScanPos <= len) {
+        const char c = SourceText[static_cast<std::size_t>(ScanPos - 1)];
+        if (c == ' ' || c == '\r') return;
+        HttpPassThrough += c;
+        ++ScanPos;
+    }
+}
+
+void Engine::chkrch() {
+    OutputText = FontText(trimBlanks(OutputText));
+    OutputText += static_cast<char>(font::kCloseGuillemet);
+    OutputText += ' ';
+    QuestionCount.clear();
+}
+
+// One turn at ScanPos. Returns false when the scanner must leave without finishing the run.
+bool Engine::scanTurn() {
+    const auto charAt = [this](std::int64_t p) -> int {
+        if (p < 1 || p > static_cast<std::int64_t>(SourceText.size())) return kNoChar;
+        return static_cast<unsigned char>(SourceText[static_cast<std::size_t>(p - 1)]);
+    };
+    const auto c = [&] { return charAt(ScanPos); };
+    const bool englishSource = Check1 == 0;
+
+    // Armenian text: a question mark is skipped.
+    if (!englishSource && c() == '?') ++ScanPos;
+
+    // An e-mail address or an archive name goes through untranslated.
+    if (c() == '@' || nextIs(".zip") || nextIs(".rar")) {
+        HttpPassThrough = std::move(CurrentWord);
+        CurrentWord.clear();
+        InternetWhile();
+        OutputText += HttpPassThrough;
+        HttpPassThrough.clear();
+    }
+
+    // Digits count as a word of class "1"; "3-story" is a building of three floors.
+    if (isAsciiDigit(c())) ClassChain += '1';
+    if (c() == '-' && nextIs("story")) {
+        teqst_dblclick();
+        OutputText += " հարկանի"_ft;
+        ScanPos += 6;
+    }
+
+    // Abbreviations written at once.
+    const auto abbreviation = [this](std::string_view text, bool withEnding, int length) {
+        OutputText += text;
+        if (withEnding) OutputText += PendingEnding;
+        OutputText += ' ';
+        CurrentWord.clear();
+        PendingEnding.clear();
+        ClassChain = "n";
+        ScanPos += length;
+    };
+    if (atIs("US ")) {
+        abbreviation("ՄՆ"_ft, true, 3);
+    } else if (atIs("U.S.") || atIs("u.s.")) {
+        abbreviation("Մ.Ն."_ft, true, 4);
+    } else if (atIs("U.N.") || atIs("u.n.")) {
+        abbreviation("ՄԱԿ"_ft, true, 4);
+    } else if (atIs("p.m.")) {
+        abbreviation("կեսօրից հետո"_ft, false, 4);
+    } else if (atIs("a.m.")) {
+        abbreviation("կեսօրից առաջ"_ft, false, 4);
+    }
+
+    mecatarer();
+
+    // Signs of Armenian text: dropped, or written as their plain forms.
+    if (c() == font::kQuestionSign) {
+        QuestionMarkHold = "?";
+        ++ScanPos;
+        return true;
+    }
+    if (c() == font::kEmphasisSign) {
+        ++ScanPos;
+        return true;
+    }
+    if (c() == font::kEmDash) {
+        OutputText += '-';
+        CurrentWord.clear();
+        ++ScanPos;
+        return true;
+    }
+    if (c() == kLatinOpenGuillemet) {
+        OutputText += static_cast<char>(font::kOpenGuillemet);
+        CurrentWord.clear();
+        ++ScanPos;
+        return true;
+    }
+
+    if (c() != kNoChar) CurrentWord += static_cast<char>(c());
+    RawWord = CurrentWord;
+    if (SpellMode == 1) textselection();
+    if (!RawWord.empty() && isRawWordDelimiter(static_cast<unsigned char>(RawWord.back()))) RawWord.pop_back();
+
+    // "'ll": the word before is looked up, and "shall" follows.
+    if (atIs("'ll") || atIs("\x92ll")) {
+        if (!CurrentWord.empty()) CurrentWord.pop_back();
+        ScanPos += 3;
+        teqst_dblclick();
+        OutputText += ' ';
+        CurrentWord = "shall";
+    }
+
+    // The dictionary's key is 20 characters wide: a longer word goes to the ending analysis.
+    if (CurrentWord.size() > static_cast<std::size_t>(kKeyWidth)) hayqer();
+
+    // "n't": the word stands for its affirmative and the negation goes before the verb.
+    bool intoDispatch = false;
+    if (atIs("'t ") || atIs("\x92t ")) {
+        if (!CurrentWord.empty()) CurrentWord.pop_back();
+        ContractionFlag = 1;
+        const FontText stem = CurrentWord;
+        if (oneOf(stem, {"isn", "arn", "hadn", "haven", "hasn", "wasn", "weren", "mustn", "wouldn", "shouldn"})) {
+            CurrentWord.pop_back();
+            OutputText += "չ"_ft;
+            ScanPos += 2;
+        } else if (stem == "won" || stem == "shan") {
+            CurrentWord = "shall";
+            OutputText += "չ"_ft;
+            ScanPos += 2;
+        } else if (stem == "couldn" || stem == "can") {
+            // Into the modal rule, which takes its negative branch and skips to the blank.
+            CurrentWord = stem == "can" ? "can" : "could";
+            ScanPos -= 2;
+            intoDispatch = true;
+        } else if (oneOf(stem, {"didn", "don", "doesn", "aren"})) {
+            const bool shortSkip = stem == "aren" || stem == "doesn";
+            if (nextIs("t mind")) {
+                CurrentWord = "against";
+                teqst_dblclick();
+                OutputText += ' ';
+                ScanPos += shortSkip ? 4 : 5;
+            } else if (nextIs("t matter")) {
+                CurrentWord = "important";
+                teqst_dblclick();
+                ScanPos += 8;
+                OutputText += stem == "didn" ? " չէր "_ft : " չէ "_ft;
+            } else if (stem == "didn") {
+                CurrentWord = "did";
+                ScanPos -= 1;
+                intoDispatch = true;
+            } else {
+                CurrentWord = "do";
+                ScanPos -= 2;
+                intoDispatch = true;
+            }
+        }
+    }
+
+    bool wordEnd = intoDispatch;
+    if (!intoDispatch) {
+        // "'s": the possessive, or "it's" with its copula held to the clause end.
+        if (englishSource && ScanPos > 2 &&
+            (atIs("'s ") || atIs("'S ") || atIs("\x92s ") || atIs("\x92S ") || atIs("'s.") || atIs("'S.") ||
+             atIs("\x92s.") || atIs("\x92S.") || atIs("'s,") || atIs("'S,") || atIs("\x92s,") || atIs("\x92S,") ||
+             atIs("'s;") || atIs("'S;") || atIs("\x92s;") || atIs("\x92S;") || atIs("\x92s") || atIs("s'") ||
+             atIs("s\x92") || atIs("S'") || atIs("S\x92"))) {
+            const auto before = sourceAt(ScanPos - 2, 2);
+            if (before == "it" || before == "It" || CurrentWord.starts_with("that") ||
+                CurrentWord.starts_with("That")) {
+                PendingCopula = "է"_ft;
+                ScanPos += 2;
+                CurrentWord = "it";
+                PendingEnding.clear();
+                teqst_dblclick();
+            } else if (PendingEnding.empty()) {
+                if (!CurrentWord.empty()) CurrentWord.pop_back();
+                if (CurrentWord.ends_with("ie")) CurrentWord += 's';
+                PendingEnding = "ի"_ft;
+                GenitiveMark = 1;
+                ScanPos += 2;
+                return true;  // the next turn ends the word on the delimiter after the "'s"
+            } else {
+                if (!CurrentWord.empty()) CurrentWord.pop_back();
+                ScanPos += 2;
+            }
+        }
+
+        // A double quote stands for the letter "ե" in texts that write it so.
+        if (c() == '"' && QuoteCount == "ե"_ft) {
+            if (!CurrentWord.empty()) CurrentWord.back() = "ե"_ft[0];
+        } else if (c() == '"' || (c() != kNoChar && isWordDelimiter(static_cast<unsigned char>(c())))) {
+            wordEnd = true;
+        }
+    }
+
+    if (!wordEnd) {
+        ++ScanPos;
+        return true;
+    }
+
+    // Word end.
+    if (QuestionCount == "»"_ft) chkrch();
+    if (!CurrentWord.empty()) {
+        if (isRawWordDelimiter(static_cast<unsigned char>(CurrentWord.back()))) CurrentWord.pop_back();
+        replaceAll(CurrentWord, "եւ"_ft, "և"_ft);
+    }
+    if (PendingEnding == "ից"_ft || PendingEnding == "ով"_ft) {
+        qezanic();
+    } else if (oneOf(PendingEnding, {"ի"_ft, "ի մեջ"_ft, "ի վրա"_ft, "ի տակ"_ft, "ի միջև"_ft, "ի հետ"_ft,
+                                     "ի համար"_ft, "ի մասին"_ft, "ի շուրջ"_ft})) {
+        qo_mej();
+    }
+
+    if (triggerSelect() == TriggerReturn::Rescan) return true;
+
+    // Finish: look up what the rule left, and put the pending endings on a noun.
+    if (!PendingEnding.empty() && PendingEnding != "ի "_ft && !ArticleEnding.empty()) ArticleEnding.clear();
+    teqst_dblclick();
+    wordEndTail(c());
+
+    // The delimiter itself.
+    const int d = c();
+    if (d != kNoChar && isCopiedDelimiter(static_cast<unsigned char>(d))) {
+        OutputText += static_cast<char>(d);
+    } else if (d == ':') {
+        if (!QuestionMarkHold.empty()) {
+            OutputText += QuestionMarkHold;
+            QuestionMarkHold.clear();
+        } else {
+            OutputText += PendingCopula;
+            OutputText += '.';
+            PendingCopula.clear();
+            VerbFormMark.clear();
+            ParticipleGuess.clear();
+            AbleFlag.clear();
+            GoodFlag.clear();
+        }
+    } else if (d == '.' || d == '?' || d == '!') {
+        sentenceEnd(static_cast<unsigned char>(d));
+    }
+
+    if (!englishSource && endsWithAny(OutputText, {".", "!", "?"})) {
+        FutureParticle.clear();
+        CaseEndingSeen.clear();
+        SingularPast.clear();
+        SecondPersonEnding.clear();
+        ThirdPersonEnding.clear();
+        LessPrefix.clear();
+        PassiveStemSeen.clear();
+        CausativeVerb.clear();
+        ProgressiveNext.clear();
+        TransitiveNext.clear();
+        PrepositionNext.clear();
+        PendingEnding.clear();
+    }
+
+    if (AnswerCode == kAnswerYes) return false;
+    CurrentWord.clear();
+    ++ScanPos;
+    return true;
+}
+
+// The endings pending after a word: on a noun or a number they are written behind it.
+void Engine::wordEndTail(int c) {
+    if (!ArticleEnding.empty() && (outputEndsWith("ը"_ft) || outputEndsWith(":"))) ArticleEnding.clear();
+    const char tag1 = WordTag.empty() ? ' ' : WordTag[0];
+    const bool takesEndings = !keepsEndingsPending(c) && (tag1 == 'n' || tag1 == '1');
+
+    if (takesEndings && (PendingEnding.empty() || PendingEnding.ends_with("եր"_ft))) {
+        OutputText += PendingEnding;
+        OutputText += ArticleEnding;
+        ArticleEnding.clear();
+        PendingEnding.clear();
+    }
+
+    const bool afterNumber = !OutputText.empty() && (isAsciiDigit(OutputText.back()) || OutputText.back() == '.' ||
+                                                     OutputText.back() == '%' || OutputText.back() == '\'' ||
+                                                     OutputText.back() == kCR || OutputText.back() == kLF);
+    if (afterNumber) {
+        if (PendingEnding == "ի մեջ"_ft) PendingEnding = "ին"_ft;  // a number takes "ին"
+        return;
+    }
+    if (!takesEndings) return;
+
+    if (Check1 == 1) {
+        if (tag1 == 'n' && PendingEnding == "s") {
+            static constexpr std::string_view kVowels = "aeiou";
+            const std::size_t n = OutputText.size();
+            if (n >= 2 && OutputText[n - 1] == 'y' && kVowels.find(OutputText[n - 2]) == std::string_view::npos &&
+                OutputText[n - 2] != ' ') {
+                OutputText.pop_back();
+                OutputText += "ies";
+            } else if (endsWithAny(OutputText, {"s", "z", "c", "x"})) {
+                OutputText += "es";
+            } else {
+                OutputText += 's';
+            }
+            PendingEnding.clear();
+        }
+        return;
+    }
+
+    // Joining vowel, the object ending of a transitive verb, and the final fixes.
+    if ((PendingEnding.starts_with("ի"_ft) || PendingEnding.starts_with("ո"_ft) ||
+         PendingEnding.starts_with("ա"_ft)) &&
+        (outputEndsWith("ա"_ft) || outputEndsWith("ո"_ft))) {
+        OutputText += "յ"_ft;
+    }
+    if (PendingPlural == 1 && ArticleEnding.empty()) {
+        PendingEnding = "ին"_ft;
+        if (outputEndsWith("ը"_ft)) OutputText.pop_back();
+    }
+    if (outputEndsWith(":") && PendingEnding == "ին"_ft) {
+        OutputText.pop_back();
+        OutputText += PendingEnding;
+        OutputText += ':';
+    } else {
+        OutputText += PendingEnding;
+    }
+    PendingEnding.clear();
+    replaceTail(OutputText, "թյունին"_ft, "թյանը"_ft);
+    replaceTail(OutputText, "ըին:"_ft, "ին:"_ft);
+}
+
+// ".", "?" or "!": a decimal point, a run of points, or the end of a sentence.
+void Engine::sentenceEnd(unsigned char c) {
+    const auto next = sourceAt(ScanPos + 1, 1);
+    if (!next.empty() && isAsciiDigit(next[0])) {
+        OutputText += static_cast<char>(c);
+        return;
+    }
+    if (next == "." && (!PendingEnding.empty() || !ArticleEnding.empty())) {
+        OutputText += PendingEnding;
+        OutputText += ArticleEnding;
+        OutputText += '.';
+        PendingEnding.clear();
+        ArticleEnding.clear();
+        ++ScanPos;
+        return;
+    }
+    if (c == '.' && QuestionMarkPosition > 0) {
+        if (QuestionMarkPosition <= static_cast<std::int64_t>(OutputText.size()))
+            OutputText.erase(static_cast<std::size_t>(QuestionMarkPosition - 1), 1);
+        QuestionMarkPosition = 0;
+    }
+    if ((PendingEnding.starts_with("ի"_ft) || PendingEnding.starts_with("ո"_ft)) &&
+        (outputEndsWith("ա"_ft) || outputEndsWith("ո"_ft))) {
+        OutputText += "յ"_ft;
+    }
+    if (!WordTag.empty() && WordTag[0] == 'p' && PendingEnding.ends_with("եր"_ft)) PendingEnding.clear();
+    if (Check1 == 0) {
+        OutputText += PendingEnding;
+        OutputText += ArticleEnding;
+        if (!PendingCopula.empty()) {
+            OutputText += ' ';
+            OutputText += PendingCopula;
+        }
+        OutputText += ':';
+    } else {
+        OutputText += static_cast<char>(c);
+    }
+    resetSentence();
+    VerbFormMark.clear();
+    ParticipleGuess.clear();
+    AbleFlag.clear();
+    GoodFlag.clear();
+}
+
+}  // namespace vorlexa
