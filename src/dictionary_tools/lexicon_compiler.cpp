@@ -130,7 +130,8 @@ void checkTag(Direction direction, std::string_view gloss, std::string_view tag,
 }  // namespace
 
 std::vector<std::string> checkRecordFields(Direction direction, std::string_view key,
-                                           std::string_view gloss, std::string_view tag) {
+                                           std::string_view gloss, std::string_view tag,
+                                           bool keySpelledByRule) {
     std::vector<std::string> reasons;
     if (key.empty()) reasons.push_back("empty key");
     if (gloss.empty()) reasons.push_back("empty gloss");
@@ -140,10 +141,10 @@ std::vector<std::string> checkRecordFields(Direction direction, std::string_view
         reasons.push_back("blank at the edge of the key");
     if (key == kNullKey || key == kFreedKey) reasons.push_back("the key is a reserved record mark");
     if (direction == Direction::EnglishToArmenian) {
-        checkEnglishSide(key, true, "key", reasons);
+        if (!keySpelledByRule) checkEnglishSide(key, true, "key", reasons);
         checkArmenianSide(gloss, false, "gloss", reasons);
     } else {
-        checkArmenianSide(key, true, "key", reasons);
+        if (!keySpelledByRule) checkArmenianSide(key, true, "key", reasons);
         checkEnglishSide(gloss, false, "gloss", reasons);
     }
     checkTag(direction, gloss, tag, reasons);
@@ -188,7 +189,8 @@ std::string lineToFont(const std::string& line, const std::string& file, int num
 }  // namespace
 
 std::vector<LexiconEntry> readLexicon(const fs::path& file, Direction direction,
-                                      std::vector<Diagnostic>& diagnostics) {
+                                      std::vector<Diagnostic>& diagnostics,
+                                      const std::set<std::string>& ruleSpelledKeys) {
     std::vector<LexiconEntry> entries;
     std::vector<std::string> lines;
     const std::string name = file.string();
@@ -214,7 +216,9 @@ std::vector<LexiconEntry> readLexicon(const fs::path& file, Direction direction,
         while (!e.tag.empty() && e.tag.back() == ' ') e.tag.pop_back();
         std::string gloss = e.gloss;
         if (gloss.size() > kGlossWidth) gloss.resize(kGlossWidth);
-        const auto reasons = checkRecordFields(direction, e.key, gloss, e.tag);
+        // A key the rules look up exactly as they spell it ("Pope", "թ.") keeps its spelling.
+        const auto reasons =
+            checkRecordFields(direction, e.key, gloss, e.tag, ruleSpelledKeys.count(e.key) > 0);
         for (const auto& r : reasons) diagnostics.push_back({name, number, r, false});
         if (!reasons.empty()) continue;
         if (e.gloss.size() > kGlossWidth) {
@@ -244,11 +248,28 @@ std::set<std::pair<std::string, std::string>> readSecondSenses(const fs::path& f
     return allowed;
 }
 
+// The keys of rule-keys.txt for one dictionary: lines under "# en-hy" or "# hy-en".
+std::set<std::string> readRuleKeys(const fs::path& file, const char* fileTag) {
+    std::set<std::string> keys;
+    std::vector<std::string> lines;
+    if (!readLines(file, lines)) return keys;
+    bool inSection = false;
+    for (const auto& line : lines) {
+        if (line.rfind("# en-hy", 0) == 0 || line.rfind("# hy-en", 0) == 0) {
+            inSection = line.compare(2, 5, fileTag) == 0;
+            continue;
+        }
+        if (inSection && !line.empty() && line[0] != '#') keys.insert(fromUtf8(line));
+    }
+    return keys;
+}
+
 void compileDictionary(const fs::path& sourceFile, const char* fileTag, Direction direction,
                        const fs::path& target,
                        const std::set<std::pair<std::string, std::string>>& secondSenses,
                        CompileReport& report, int& count) {
-    const auto entries = readLexicon(sourceFile, direction, report.diagnostics);
+    const auto ruleKeys = readRuleKeys(sourceFile.parent_path() / "rule-keys.txt", fileTag);
+    const auto entries = readLexicon(sourceFile, direction, report.diagnostics, ruleKeys);
     std::set<std::string> seen;
     for (const auto& e : entries) {
         if (!seen.insert(e.key).second && !secondSenses.count({fileTag, e.key})) {
@@ -368,6 +389,13 @@ CompileReport buildDataFolder(const fs::path& source, const fs::path& target) {
         const fs::path from = source / "pairs" / (std::string(p.name) + ".tsv");
         if (fs::exists(from)) compilePairs(from, target / p.name, p.recordLength, report);
     }
+    // The rules' own spellings of keys travel with the data, so a check of the compiled folder
+    // knows them too.
+    if (fs::exists(source / "lexicon" / "rule-keys.txt")) {
+        fs::copy_file(source / "lexicon" / "rule-keys.txt", target / "rule-keys.txt",
+                      fs::copy_options::overwrite_existing, ec);
+        if (ec) report.diagnostics.push_back({target.string(), 0, "cannot copy rule-keys.txt", false});
+    }
     if (fs::exists(source / "help" / "read.txt"))
         compileHelp(source / "help" / "read.txt", target / "read.txt", report);
     return report;
@@ -393,6 +421,8 @@ CompileReport checkDataFolder(const fs::path& folder) {
                                           "length " + std::to_string(file.byteLength()) +
                                               " is not a whole number of 45-character records",
                                           false});
+        const auto ruleKeys = readRuleKeys(folder / "rule-keys.txt",
+                                           d == Direction::EnglishToArmenian ? "en-hy" : "hy-en");
         const int stride = strideOf(d);
         std::vector<bool> closed(static_cast<std::size_t>(stride) + 1, false);
         int count = 0;
@@ -419,7 +449,8 @@ CompileReport checkDataFolder(const fs::path& folder) {
             }
             std::string tag = r.tag();
             while (!tag.empty() && tag.back() == ' ') tag.pop_back();
-            for (const auto& reason : checkRecordFields(d, r.key(), r.gloss(), tag))
+            const bool ruleSpelled = ruleKeys.count(std::string(r.key())) > 0;
+            for (const auto& reason : checkRecordFields(d, r.key(), r.gloss(), tag, ruleSpelled))
                 report.diagnostics.push_back({name, line, "record: " + reason, false});
             ++count;
         }

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <string>
+#include <set>
 #include <string_view>
 #include <vector>
 
@@ -42,12 +43,16 @@ struct LexiconEntry {
 
 // Checks the fields of one record: widths, tag letters and positions, lower-case keys, only
 // letters and the allowed signs on each side. Returns the reasons (empty when the record is good).
+// keySpelledByRule: the key is written as a rule looks it up, so its letters are not checked.
 std::vector<std::string> checkRecordFields(Direction direction, std::string_view key,
-                                           std::string_view gloss, std::string_view tag);
+                                           std::string_view gloss, std::string_view tag,
+                                           bool keySpelledByRule = false);
 
-// Reads a lexicon file (key TAB gloss TAB tag); bad lines are reported and left out.
+// Reads a lexicon file (key TAB gloss TAB tag); bad lines are reported and left out. Keys in
+// ruleSpelledKeys are taken as the rules spell them, capitals and signs included.
 std::vector<LexiconEntry> readLexicon(const std::filesystem::path& file, Direction direction,
-                                      std::vector<Diagnostic>& diagnostics);
+                                      std::vector<Diagnostic>& diagnostics,
+                                      const std::set<std::string>& ruleSpelledKeys = {});
 
 // Compiles SOURCE (laid out as data/) into the data folder TARGET.
 CompileReport buildDataFolder(const std::filesystem::path& source, const std::filesystem::path& target);
