@@ -45,6 +45,7 @@ enum class TriggerReturn {
 struct RunStatistics {
     std::int64_t unknownOccurrences = 0;      // times an unknown word was left in the text
     std::int64_t termsWritten = 0;            // words written to the TermsFile
+    std::int64_t longWordAnalyses = 0;        // times a word wider than a key went to the analysis
     bool collectUnknownWords = false;         // also count each unknown word by itself
     std::map<FontText, std::int64_t> unknownWords;
 };

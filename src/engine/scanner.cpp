@@ -229,7 +229,10 @@ bool Engine::scanTurn() {
     }
 
     // The dictionary's key is 20 characters wide: a longer word goes to the ending analysis.
-    if (CurrentWord.size() > static_cast<std::size_t>(kKeyWidth)) hayqer();
+    if (CurrentWord.size() > static_cast<std::size_t>(kKeyWidth)) {
+        ++stats.longWordAnalyses;
+        hayqer();
+    }
 
     // "n't": the word stands for its affirmative and the negation goes before the verb.
     bool intoDispatch = false;

@@ -1,0 +1,119 @@
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+#include "dictionary_tools/lexicon_compiler.h"
+#include "support/run_cli.h"
+#include "support/temp_folder.h"
+#include "text/font_text.h"
+
+using vorlexa::test::runCli;
+using vorlexa::test::shellQuote;
+
+namespace {
+
+class TranslateCli : public ::testing::Test {
+protected:
+    void SetUp() override {
+        dir.write("src/lexicon/en-hy.tsv",
+                  "house\tտուն\tn\nbig\tմեծ\ta\nis\tէ\to\nred\tկարմիր\ta\n");
+        dir.write("src/lexicon/hy-en.tsv", "մեծ\tbig\ta\n");
+        const auto report = vorlexa::buildDataFolder(dir / "src", dir / "data");
+        ASSERT_TRUE(report.ok());
+    }
+    std::string data() const { return "--data-dir " + shellQuote((dir / "data").string()) + " "; }
+    vorlexa::test::CliResult run(const std::string& args, const std::string& input = "") {
+        return runCli(data() + args, input, dir.path());
+    }
+    vorlexa::test::TempFolder dir;
+};
+
+TEST_F(TranslateCli, RoadOfOneSentenceGivesTheGlossesInOrderAndTheFullStop) {
+    const auto r = run("translate", "The house is big.");
+    ASSERT_EQ(r.exitCode, 0) << r.err;
+    const std::string out = vorlexa::toUtf8(vorlexa::foldArmenianCase(vorlexa::fromUtf8(r.out)));
+    const auto house = out.find("տուն");
+    const auto big = out.find("մեծ");
+    ASSERT_NE(house, std::string::npos) << r.out;
+    ASSERT_NE(big, std::string::npos) << r.out;
+    EXPECT_LT(house, big);
+    EXPECT_EQ(out[big - 1], ' ');
+    EXPECT_TRUE(out.ends_with(":")) << r.out;
+    EXPECT_TRUE(r.err.empty()) << r.err;
+}
+
+TEST_F(TranslateCli, OutputEndsAsTheInputEnds) {
+    EXPECT_EQ(run("translate", "big red").out, "մեծ կարմիր");
+    EXPECT_EQ(run("translate", "big red\n").out, "մեծ կարմիր\n");
+    EXPECT_EQ(run("translate", "big\nred\n").out, "մեծ\nկարմիր\n");
+    EXPECT_EQ(run("translate", "").out, "");
+}
+
+TEST_F(TranslateCli, FilesAreTranslatedInTurn) {
+    dir.write("one.txt", "big\n");
+    dir.write("two.txt", "red.\n");
+    const auto r = run("translate " + shellQuote((dir / "one.txt").string()) + " " +
+                       shellQuote((dir / "two.txt").string()));
+    EXPECT_EQ(r.exitCode, 0) << r.err;
+    EXPECT_EQ(r.out, "մեծ\nկարմիր:\n");
+}
+
+TEST_F(TranslateCli, LinesAreRunsOfTheirOwn) {
+    const auto r = run("translate --lines", "zorb big\nred.\n\nbig");
+    EXPECT_EQ(r.exitCode, 0) << r.err;
+    EXPECT_EQ(r.out, "zorb մեծ\nկարմիր:\n\nմեծ\n");
+}
+
+TEST_F(TranslateCli, ListUnknownAppendsTheTermsOfTheRun) {
+    const auto r = run("translate --list-unknown", "zorb big qux.");
+    EXPECT_EQ(r.exitCode, 0) << r.err;
+    EXPECT_EQ(r.out, "zorb մեծ qux: \n***\nLIST OF NON-TRANSLATED TERMS\nzorb, qux");
+}
+
+TEST_F(TranslateCli, WithoutATerminalEveryQuestionIsAnsweredNo) {
+    dir.write("in.txt", "zorb big");
+    const std::string cmd = "setsid -w " + std::string(VORLEXA_CLI_PATH) + " " + data() + "translate --ask <" +
+                            shellQuote((dir / "in.txt").string()) + " 2>/dev/null";
+    FILE* pipe = popen(cmd.c_str(), "r");
+    ASSERT_NE(pipe, nullptr);
+    std::string out;
+    char buf[256];
+    std::size_t n = 0;
+    while ((n = std::fread(buf, 1, sizeof buf, pipe)) > 0) out.append(buf, n);
+    EXPECT_EQ(pclose(pipe), 0);
+    EXPECT_EQ(out, "zorb մեծ");
+}
+
+TEST_F(TranslateCli, MissingFileIsAnError) {
+    const auto r = run("translate " + shellQuote((dir / "absent.txt").string()));
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_NE(r.err.find("cannot read"), std::string::npos) << r.err;
+    EXPECT_TRUE(r.out.empty());
+}
+
+TEST_F(TranslateCli, TextThatIsNotUtf8IsAnError) {
+    const auto r = run("translate", "big \xff\xfe red");
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_NE(r.err.find("not UTF-8"), std::string::npos) << r.err;
+}
+
+TEST_F(TranslateCli, CoverageCountsWordsAndTheUntranslated) {
+    const auto r = run("coverage", "big zorb big zorb qux.");
+    EXPECT_EQ(r.exitCode, 0) << r.err;
+    EXPECT_EQ(r.out, "words: 5\nuntranslated: 2 words, 3 occurrences\nplaced: 40.0%\n");
+}
+
+TEST_F(TranslateCli, CoverageListsTheMostFrequentUntranslatedWords) {
+    const auto r = run("coverage --top 1", "big zorb big zorb qux.");
+    EXPECT_EQ(r.exitCode, 0) << r.err;
+    EXPECT_EQ(r.out,
+              "words: 5\nuntranslated: 2 words, 3 occurrences\nplaced: 40.0%\n"
+              "most frequent untranslated words:\n2\tzorb\n");
+}
+
+TEST_F(TranslateCli, CoverageOfAFullyKnownText) {
+    const auto r = run("coverage", "big red house");
+    EXPECT_EQ(r.out, "words: 3\nuntranslated: 0 words, 0 occurrences\nplaced: 100.0%\n");
+}
+
+}  // namespace
