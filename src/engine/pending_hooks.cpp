@@ -93,9 +93,6 @@ void Engine::teqst_ArmenianToEnglish() {
 // The stemming retries of an unknown word land with the unknown-word path.
 bool Engine::retryUnknownWord() { return false; }
 
-// The trigger-word dispatch lands in src/rules/; a word on no list goes on to the look-up.
-TriggerReturn Engine::triggerSelect() { return TriggerReturn::Finish; }
-
 // The ending procedures of the prepositions land in src/rules/.
 void Engine::qezanic() {}
 void Engine::qo_mej() {}
