@@ -4,7 +4,6 @@
 #include <unordered_map>
 
 #include "engine/engine.h"
-#include "rules/armenian_expressions.h"
 
 namespace vorlexa {
 
@@ -12,45 +11,6 @@ namespace {
 
 const std::unordered_map<std::string_view, RuleProcedure>& registry() {
     static const std::unordered_map<std::string_view, RuleProcedure> table{
-        {"mekangam", mekangam},
-        {"ameninch", ameninch},
-        {"dyuzninch", dyuzninch},
-        {"ancav", ancav},
-        {"ansharzhguyq", ansharzhguyq},
-        {"apatewoch", apatewoch},
-        {"teche", teche},
-        {"ardenisk", ardenisk},
-        {"barevdzez", barevdzez},
-        {"barigood", barigood},
-        {"bariluyss", bariluyss},
-        {"luys", luys},
-        {"mecgood", mecgood},
-        {"bozi_txa", bozi_txa},
-        {"hazivte", hazivte},
-        {"esteutyan", esteutyan},
-        {"zhamslak", zhamslak},
-        {"ibrevte", ibrevte},
-        {"dsk", dsk},
-        {"hogtanel", hogtanel},
-        {"hordancrev", hordancrev},
-        {"harkkar", harkkar},
-        {"chishtnasac", chishtnasac},
-        {"odin", odin},
-        {"mekayl", mekayl},
-        {"menmenak", menmenak},
-        {"MiddlEast", MiddlEast},
-        {"shers", shers},
-        {"hamarist", hamarist},
-        {"xmas", xmas},
-        {"verimuch", verimuch},
-        {"shabat", shabat},
-        {"shutara", shutara},
-        {"wordiw", wordiw},
-        {"petqe", petqe},
-        {"vaxteush", vaxteush},
-        {"ors", ors},
-        {"tak", tak},
-        {"teqst_dblclick", teqst_dblclick},
     };
     return table;
 }
