@@ -5,28 +5,11 @@
 #include <filesystem>
 #include <string>
 
+#include "app/fixture_lexicon.h"
 #include "dictionary_tools/lexicon_compiler.h"
 #include "support/temp_folder.h"
 
 namespace vorlexa::test {
-
-inline const char* const kFixtureEnglish =
-    "house\tտուն\tn\n"
-    "big\tմեծ\ta\n"
-    "is\tէ\to\n"
-    "book\tգիրք\tn\n"
-    "red\tկարմիր\ta\n";
-
-inline const char* const kFixtureArmenian =
-    "տուն\thouse\tn\n"
-    "մեծ\tbig\ta\n"
-    "գիրք\tbook\tn\n";
-
-// Three sections, each closed by its mark: the Armenian help, the English help, the font note.
-inline const char* const kFixtureHelp =
-    "Օգնություն\nnull\n"
-    "Help text\nnull0\n"
-    "Install a font with Armenian letters.\nnull\n";
 
 // Compiles the fixture into folder/data and returns that path.
 inline std::filesystem::path buildFixtureData(const TempFolder& folder) {

@@ -1,0 +1,38 @@
+// vorlexa: the desktop window of the translator.
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QIcon>
+
+#include "engine/data_folder.h"
+#include "shell/form1.h"
+
+#ifndef VORLEXA_VERSION
+#define VORLEXA_VERSION "0.0.0"
+#endif
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("vorlexa"));
+    QApplication::setApplicationVersion(QStringLiteral(VORLEXA_VERSION));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("vorlexa")));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("ZENKA - Vorlexa: English-Armenian translation"));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption dataDir(QStringLiteral("data-dir"),
+                                     QStringLiteral("Working folder (default: $VORLEXA_DATA_DIR, else "
+                                                    "$XDG_DATA_HOME/vorlexa)."),
+                                     QStringLiteral("DIR"));
+    parser.addOption(dataDir);
+    parser.process(application);
+
+    std::optional<std::filesystem::path> fromCommandLine;
+    if (parser.isSet(dataDir)) fromCommandLine = parser.value(dataDir).toStdString();
+    const std::filesystem::path folder = vorlexa::resolveDataFolder(fromCommandLine);
+
+    vorlexa::shell::Form1 window;
+    if (window.start(folder, vorlexa::shippedDataFolder()) == vorlexa::app::StartResult::AlreadyRunning) return 1;
+    window.show();
+    return QApplication::exec();
+}

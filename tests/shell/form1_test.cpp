@@ -1,0 +1,358 @@
+// The main window with its widgets, on the offscreen platform: typing, the titles, the two
+// interface languages, the settings across a restart, the second copy, the add-word panel and
+// phonetic typing, each driven through the controls the design names.
+#include <QAction>
+#include <QCheckBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QSignalSpy>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <deque>
+#include <fstream>
+#include <memory>
+
+#include "app/fixture_lexicon.h"
+#include "app/interface_text.h"
+#include "dictionary_tools/lexicon_compiler.h"
+#include "shell/form1.h"
+#include "shell/qt_text.h"
+
+using namespace vorlexa;
+using vorlexa::shell::Form1;
+
+namespace {
+
+// Answers the window's questions from a script; No once the script is used up.
+class ScriptedPrompter : public shell::Prompter {
+public:
+    std::deque<int> answers;
+    QStringList asked;
+    QStringList notices;
+
+    int ask(QWidget*, const QString& title, const QString& text, Buttons) override {
+        asked << title + QStringLiteral(" | ") + text;
+        if (answers.empty()) return kAnswerNo;
+        const int a = answers.front();
+        answers.pop_front();
+        return a;
+    }
+    void notify(QWidget*, const QString&, const QString& text) override { notices << text; }
+};
+
+void writeFile(const std::filesystem::path& path, const char* text) {
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << text;
+}
+
+QString u(const char* utf8) { return QString::fromUtf8(utf8); }
+
+}  // namespace
+
+class Form1Test : public QObject {
+    Q_OBJECT
+
+private:
+    QTemporaryDir dir_;
+    std::filesystem::path data_;
+    ScriptedPrompter prompter_;
+    std::unique_ptr<Form1> window_;
+
+    Form1& open() {
+        window_ = std::make_unique<Form1>();
+        window_->setPrompter(&prompter_);
+        window_->saveForExit = [] { return true; };
+        const app::StartResult started = window_->start(data_, {});
+        if (started != app::StartResult::Started) qFatal("the window did not start");
+        window_->show();
+        if (!QTest::qWaitForWindowExposed(window_.get())) qWarning("window not exposed");
+        window_->activateWindow();
+        return *window_;
+    }
+    void closeWindow() {
+        if (!window_) return;
+        window_->close();
+        window_.reset();
+    }
+    template <class T>
+    T* child(const char* name) {
+        T* w = window_->findChild<T*>(QString::fromLatin1(name));
+        if (!w) qFatal("no control %s", name);
+        return w;
+    }
+    QAction* action(const char* name) { return child<QAction>(name); }
+    QString text4() { return child<QPlainTextEdit>("Text4")->toPlainText(); }
+
+private slots:
+    void init() {
+        QVERIFY(dir_.isValid());
+        const std::filesystem::path root = dir_.path().toStdString() + "/" + QTest::currentTestFunction();
+        std::filesystem::remove_all(root);
+        writeFile(root / "src/lexicon/en-hy.tsv", test::kFixtureEnglish);
+        writeFile(root / "src/lexicon/hy-en.tsv", test::kFixtureArmenian);
+        writeFile(root / "src/help/read.txt", test::kFixtureHelp);
+        data_ = root / "data";
+        QVERIFY(buildDataFolder(root / "src", data_).ok());
+        prompter_ = ScriptedPrompter{};
+    }
+    void cleanup() { closeWindow(); }
+
+    void controlsCarryTheNamesOfTheDesign() {
+        open();
+        QCOMPARE(window_->objectName(), QStringLiteral("Form1"));
+        child<QPlainTextEdit>("Text3");
+        child<QPlainTextEdit>("Text4");
+        child<QCheckBox>("Check1");
+        child<QProgressBar>("ProgressBar1");
+        child<QLabel>("Picture1");
+        child<QLabel>("Picture2");
+        child<QLineEdit>("Text1");
+        child<QLineEdit>("Text2");
+        child<QLineEdit>("Text6");
+        child<QPushButton>("Command2");
+        for (const app::MenuEntry& e : app::menuTree()) {
+            const QString name = shell::captionText(e.name);
+            if (e.submenu) {
+                QVERIFY2(window_->findChild<QMenu*>(name), qPrintable(name));
+                continue;
+            }
+            QAction* a = window_->findChild<QAction*>(name);
+            QVERIFY2(a, qPrintable(name));
+            QCOMPARE(a->shortcut(), QKeySequence(shell::captionText(e.shortcut)));
+            QCOMPARE(a->text(), shell::captionText(app::resourceCaption(e.name)));
+        }
+        QCOMPARE(window_->windowTitle(), QStringLiteral("ZENKA - Vorlexa"));
+        QCOMPARE(action("uta")->text(), QStringLiteral("Unicod to ANSCII Converter"));
+    }
+
+    void itemsWhoseWorkIsNotBuiltAreShownDisabled() {
+        Form1& w = open();
+        for (const char* name : {"Open1", "CWD", "Corr", "Fnd", "Replacce", "uta", "cvtae", "fnt", "Chat", "Ha", "abo"})
+            QVERIFY2(!action(name)->isEnabled(), name);
+        for (const char* name : {"TS", "ITR", "IMPV", "SUT", "EF", "EdtTr", "AMN", "Engo", "TA", "exit1"})
+            QVERIFY2(action(name)->isEnabled(), name);
+        QVERIFY(!child<QMenu>("splc")->menuAction()->isEnabled());
+        // Save waits for its dialog and for the first run.
+        QVERIFY(!action("Save")->isEnabled());
+        w.registerCommand(QStringLiteral("Save"), [] {});
+        QVERIFY(!action("Save")->isEnabled());
+        child<QPlainTextEdit>("Text3")->setPlainText(QStringLiteral("big house"));
+        QVERIFY(action("Save")->isEnabled());
+    }
+
+    void typingIntoTheSourceBoxFillsTheResult() {
+        open();
+        action("ITR")->trigger();
+        QVERIFY(action("ITR")->isChecked());
+        auto* text3 = child<QPlainTextEdit>("Text3");
+        text3->setFocus();
+        QTest::keyClicks(text3, QStringLiteral("big house"));
+        QCOMPARE(text3->toPlainText(), QStringLiteral("big house"));
+        QVERIFY2(text4().contains(u("մեծ")) && text4().contains(u("տուն")), qPrintable(text4()));
+        QVERIFY(prompter_.asked.isEmpty());
+        QVERIFY(!child<QCheckBox>("Check1")->isChecked());
+        // Under instant translation the title keeps the direction.
+        QCOMPARE(window_->windowTitle(), QStringLiteral("Translating from English to Armenian"));
+        QVERIFY(!child<QProgressBar>("ProgressBar1")->isVisible());
+
+        // A text set by a command is one change, and so one run.
+        QSignalSpy changes(text3, &QPlainTextEdit::textChanged);
+        text3->setPlainText(QStringLiteral("red book"));
+        QCOMPARE(changes.count(), 1);
+        QVERIFY2(text4().contains(u("կարմիր")), qPrintable(text4()));
+    }
+
+    void theTitleShowsTheDirectionAndThenTheTiming() {
+        open();
+        auto* text3 = child<QPlainTextEdit>("Text3");
+        text3->setPlainText(u("մեծ տուն"));
+        QVERIFY(child<QCheckBox>("Check1")->isChecked());
+        QVERIFY2(text4().contains(QStringLiteral("big")) && text4().contains(QStringLiteral("house")), qPrintable(text4()));
+        QVERIFY2(window_->windowTitle().startsWith(QStringLiteral("Translated in ")), qPrintable(window_->windowTitle()));
+        QVERIFY(window_->windowTitle().endsWith(QStringLiteral(" seconds.")));
+        QVERIFY(!child<QProgressBar>("ProgressBar1")->isVisible());
+
+        prompter_.answers = {kAnswerYes};
+        action("AMN")->trigger();
+        text3->setPlainText(QStringLiteral("big house"));
+        QVERIFY(!child<QCheckBox>("Check1")->isChecked());
+        QVERIFY2(window_->windowTitle().startsWith(u("Թարգմանությունը տևեց ")), qPrintable(window_->windowTitle()));
+    }
+
+    void armenianAndEnglishInterfacesChangeEveryCaption() {
+        open();
+        prompter_.answers = {kAnswerYes};
+        action("AMN")->trigger();
+        QCOMPARE(prompter_.asked.size(), 1);
+        QVERIFY(prompter_.asked[0].contains(u("Հայերեն միջերեսը տեսանելի՞ է:")));
+        QVERIFY(action("AMN")->isChecked());
+        for (const app::MenuEntry& e : app::menuTree()) {
+            const QString expected = shell::captionText(*app::captionIn(e.name, app::Language::Armenian));
+            if (e.submenu)
+                QCOMPARE(child<QMenu>(e.name.data())->title(), expected);
+            else
+                QCOMPARE(action(e.name.data())->text(), expected);
+        }
+        QCOMPARE(window_->windowTitle(), u("ԶԵՆԿԱ - Վորլեքսա"));
+        QCOMPARE(child<QLabel>("Picture1")->toolTip(), u("'Ctrl+z' փոխում է մուտքագրման լեզուն:"));
+
+        action("Engo")->trigger();
+        QVERIFY(!action("AMN")->isChecked());
+        for (const app::MenuEntry& e : app::menuTree()) {
+            const QString expected = shell::captionText(*app::captionIn(e.name, app::Language::English));
+            if (e.submenu)
+                QCOMPARE(child<QMenu>(e.name.data())->title(), expected);
+            else
+                QCOMPARE(action(e.name.data())->text(), expected);
+        }
+        QCOMPARE(action("uta")->text(), QStringLiteral("Unicode to ANSI Converter"));
+        QCOMPARE(window_->windowTitle(), QStringLiteral("ZENKA - Vorlexa"));
+    }
+
+    void noToTheInterfaceQuestionShowsTheFontNote() {
+        open();
+        prompter_.answers = {kAnswerNo};
+        action("AMN")->trigger();
+        QCOMPARE(text4(), QStringLiteral("\nInstall a font with Armenian letters.\n"));
+    }
+
+    void settingsSurviveARestart() {
+        open();
+        prompter_.answers = {kAnswerYes};
+        action("AMN")->trigger();
+        auto* text3 = child<QPlainTextEdit>("Text3");
+        text3->setFocus();
+        QTest::keyClick(text3, Qt::Key_Z, Qt::ControlModifier);  // TA, from inside a text box
+        QVERIFY(action("TA")->isChecked());
+        action("ITR")->trigger();
+        closeWindow();  // nothing translated: no question, the settings are written
+
+        prompter_ = ScriptedPrompter{};
+        open();
+        QVERIFY(prompter_.asked.isEmpty());
+        QVERIFY(action("AMN")->isChecked());
+        QVERIFY(action("TA")->isChecked());
+        QVERIFY(action("ITR")->isChecked());
+        QVERIFY(!action("EF")->isChecked());
+        QVERIFY(child<QLabel>("Picture2")->isVisible());
+        QVERIFY(!child<QLabel>("Picture1")->isVisible());
+        QCOMPARE(action("TS")->text(), u("Թարգմանել ընտրված հատվածը"));
+    }
+
+    void aSecondInstanceIsRefused() {
+        open();
+        ScriptedPrompter second;
+        Form1 other;
+        other.setPrompter(&second);
+        QCOMPARE(other.start(data_, {}), app::StartResult::AlreadyRunning);
+        QCOMPARE(second.notices, QStringList{QStringLiteral("The application is already running!")});
+    }
+
+    void exitAsksAboutTheResultAndCancelKeepsTheWindow() {
+        open();
+        child<QPlainTextEdit>("Text3")->setPlainText(QStringLiteral("big house"));
+        prompter_.answers = {kAnswerCancel};
+        QVERIFY(!window_->close());
+        QVERIFY(window_->isVisible());
+        QVERIFY(prompter_.asked.last().contains(QStringLiteral("Would you like to save it?")));
+        QVERIFY(!QFile::exists(QString::fromStdString((data_ / "Stringea").string())));
+        prompter_.answers = {kAnswerNo};
+        QVERIFY(window_->close());
+    }
+
+    void theAddWordPanelAddsAWordAndThePausedRunFinishes() {
+        open();
+        prompter_.answers = {kAnswerYes, kAnswerYes};  // stop at unknown words; add this one
+        child<QPlainTextEdit>("Text3")->setPlainText(QStringLiteral("big zorbl house"));
+        QCOMPARE(prompter_.asked.size(), 2);
+        QVERIFY(prompter_.asked[1].contains(QStringLiteral("No Word 'zorbl' In Dictionary.")));
+        auto* text1 = child<QLineEdit>("Text1");
+        auto* text2 = child<QLineEdit>("Text2");
+        QVERIFY(text1->isVisible());
+        QCOMPARE(text1->text(), QStringLiteral("zorbl"));
+        QCOMPARE(child<QPushButton>("Command2")->text(), QStringLiteral("Save"));
+        QVERIFY(!text4().contains(u("տուն")));
+
+        // A click into the box keeps Latin typing, the language of the English source; the
+        // translation is typed phonetically after Ctrl+Z.
+        QTest::mouseClick(text2, Qt::LeftButton);
+        QVERIFY(!action("TA")->isChecked());
+        QTest::keyClick(text2, Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(action("TA")->isChecked());
+        QTest::keyClicks(text2, QStringLiteral("zarmik"));
+        QCOMPARE(text2->text(), u("զառմիկ"));
+        QTest::keyClicks(child<QLineEdit>("Text6"), QStringLiteral("n"));
+        QTest::mouseClick(child<QPushButton>("Command2"), Qt::LeftButton);
+
+        QVERIFY(!text1->isVisible());
+        QVERIFY2(text4().contains(u("զառմիկ")), qPrintable(text4()));
+        QVERIFY2(text4().contains(u("տուն")), qPrintable(text4()));
+        QCOMPARE(window_->logic().engine()->state, RunState::Idle);
+        QVERIFY(window_->logic().store().findEnglish("zorbl"));
+        QVERIFY(window_->logic().store().findArmenian(shell::fontText(u("զառմիկ"))));
+    }
+
+    void phoneticTypingMapsKeysByTheTable() {
+        open();
+        action("ITR")->trigger();
+        auto* text3 = child<QPlainTextEdit>("Text3");
+        text3->setFocus();
+        QTest::keyClicks(text3, QStringLiteral("ab"));
+        QCOMPARE(text3->toPlainText(), QStringLiteral("ab"));
+        QTest::mouseClick(child<QLabel>("Picture1"), Qt::LeftButton);  // the picture switches too
+        QVERIFY(action("TA")->isChecked());
+        QVERIFY(child<QLabel>("Picture2")->isVisible());
+        QTest::keyClicks(text3, QStringLiteral(" Barev 0)7?6&{|}"));
+        QCOMPARE(text3->toPlainText(), u("ab Բառեվ ճՃև՞6&ԽՇԾ"));
+        QTest::keyClick(text3, Qt::Key_Z, Qt::ControlModifier);
+        QVERIFY(!action("TA")->isChecked());
+        QVERIFY(child<QLabel>("Picture1")->isVisible());
+        QTest::keyClicks(text3, QStringLiteral("x"));
+        QCOMPARE(text3->toPlainText(), u("ab Բառեվ ճՃև՞6&ԽՇԾx"));
+    }
+
+    void translateSelectionRewritesThePartOfTheResult() {
+        open();
+        auto* text4box = child<QPlainTextEdit>("Text4");
+        text4box->setPlainText(QStringLiteral("AAA big BBB"));
+        QTextCursor c = text4box->textCursor();
+        c.setPosition(4);
+        c.setPosition(7, QTextCursor::KeepAnchor);
+        text4box->setTextCursor(c);
+        action("TS")->trigger();
+        QCOMPARE(child<QPlainTextEdit>("Text3")->toPlainText(), QStringLiteral("big"));
+        const QString out = text4();
+        QVERIFY2(out.startsWith(QStringLiteral("AAA ")) && out.endsWith(QStringLiteral(" BBB")), qPrintable(out));
+        QVERIFY2(out.contains(u("մեծ")), qPrintable(out));
+        QCOMPARE(text4box->textCursor().selectionStart(), 4);
+        QCOMPARE(text4box->textCursor().selectedText(), out.mid(4, out.size() - 8));
+    }
+
+    void editingModeGivesTheWholeAreaToTheResult() {
+        open();
+        QVERIFY(child<QPlainTextEdit>("Text3")->isVisible());
+        action("EF")->trigger();
+        QVERIFY(action("EF")->isChecked());
+        QVERIFY(!child<QPlainTextEdit>("Text3")->isVisible());
+        QVERIFY(child<QPlainTextEdit>("Text4")->isVisible());
+        action("EF")->trigger();
+        QVERIFY(child<QPlainTextEdit>("Text3")->isVisible());
+        QCOMPARE(child<QPlainTextEdit>("Text4")->font().family(), QStringLiteral("DejaVu Sans"));
+    }
+
+    void theResultBoxShowsArmenianInAFaceThatHasIt() {
+        open();
+        const QFont f = child<QPlainTextEdit>("Text4")->font();
+        QCOMPARE(f.family(), QStringLiteral("DejaVu Sans"));
+        QVERIFY(QFontMetrics(f).inFont(QChar(0x0540)));  // Հ
+        QVERIFY(QFontMetrics(f).inFont(QChar(0x0587)));  // և
+    }
+};
+
+QTEST_MAIN(Form1Test)
+#include "form1_test.moc"
