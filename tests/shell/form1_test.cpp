@@ -14,6 +14,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <deque>
+#include <functional>
 #include <fstream>
 #include <memory>
 
@@ -34,9 +35,11 @@ public:
     std::deque<int> answers;
     QStringList asked;
     QStringList notices;
+    std::function<void()> whenAsked;  // looks at the window while the question stands
 
     int ask(QWidget*, const QString& title, const QString& text, Buttons) override {
         asked << title + QStringLiteral(" | ") + text;
+        if (whenAsked) whenAsked();
         if (answers.empty()) return kAnswerNo;
         const int a = answers.front();
         answers.pop_front();
@@ -165,6 +168,32 @@ private slots:
         text3->setPlainText(QStringLiteral("red book"));
         QCOMPARE(changes.count(), 1);
         QVERIFY2(text4().contains(u("կարմիր")), qPrintable(text4()));
+    }
+
+    void theProgressBarMovesDuringARunAndGoesAtItsEnd() {
+        open();
+        QString text;
+        for (int i = 0; i < 500; ++i) text += QStringLiteral("big red house ");
+        text += QStringLiteral("zorbl");
+        bool shown = false;
+        int value = -1;
+        prompter_.whenAsked = [&] {
+            shown = child<QProgressBar>("ProgressBar1")->isVisible();
+            value = child<QProgressBar>("ProgressBar1")->value();
+        };
+        child<QPlainTextEdit>("Text3")->setPlainText(text);
+        prompter_.whenAsked = nullptr;
+        QCOMPARE(prompter_.asked.size(), 1);  // the first unknown word, near the end of the text
+        QVERIFY(shown);
+        QVERIFY2(value >= 90 && value <= 100, qPrintable(QString::number(value)));
+        QVERIFY(!child<QProgressBar>("ProgressBar1")->isVisible());
+
+        // Under instant translation the bar stays hidden.
+        action("ITR")->trigger();
+        prompter_.asked.clear();
+        child<QPlainTextEdit>("Text3")->setPlainText(text + QStringLiteral(" "));
+        QVERIFY(prompter_.asked.isEmpty());
+        QVERIFY(!child<QProgressBar>("ProgressBar1")->isVisible());
     }
 
     void theTitleShowsTheDirectionAndThenTheTiming() {
