@@ -336,8 +336,14 @@ void Form1::stateChanged() {
     put(Text6, p.Text6);
     Command2->setText(captionText(p.Command2));
     Command2->setVisible(p.visible);
-    List1->clear();
-    for (const FontText& item : p.List1) List1->addItem(boxText(item));
+    // The list is refilled only when its items changed, so that a chosen item stays chosen.
+    bool sameList = List1->count() == static_cast<int>(p.List1.size());
+    for (int i = 0; sameList && i < List1->count(); ++i)
+        sameList = List1->item(i)->text() == boxText(p.List1[static_cast<std::size_t>(i)]);
+    if (!sameList) {
+        List1->clear();
+        for (const FontText& item : p.List1) List1->addItem(boxText(item));
+    }
     List1->setVisible(p.listVisible);
     syncing_ = false;
 }
