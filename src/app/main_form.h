@@ -156,8 +156,6 @@ public:
     // ---- Phonetic typing -----------------------------------------------------------------
     // The code a key press in one of the main window's boxes becomes.
     unsigned char typedKey(unsigned char key) const;
-    // Text3 and Text4 select the whole box on Ctrl+A (key code 1).
-    static constexpr unsigned char kSelectAllKey = 1;
 
     // ---- State -------------------------------------------------------------------------
     bool checked(std::string_view item) const;
