@@ -193,6 +193,13 @@ TEST(Scanner, SentenceEndsBecomeTheArmenianFullStop) {
     EXPECT_EQ(f.translate("big? red! big."), "մեծ: կարմիր: մեծ: ");
 }
 
+TEST(Scanner, FullStopTakesOutTheSignOfAMovedQuestionWord) {
+    EngineFixture f(kSmallLexicon);
+    f.host.onAsk = [&](const Question&) { f.engine->QuestionMarkPosition = 1; };
+    EXPECT_EQ(f.translate("zorb big."), "orb մեծ: ");
+    EXPECT_EQ(f.engine->QuestionMarkPosition, 0);
+}
+
 TEST(Scanner, ColonWritesTheHeldCopulaAndAPoint) {
     EngineFixture f(kSmallLexicon);
     EXPECT_EQ(f.translate("It’s: red"), "Դաէ. կարմիր ");
