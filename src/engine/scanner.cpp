@@ -337,6 +337,9 @@ bool Engine::scanTurn() {
     // Finish: look up what the rule left, and put the pending endings on a noun.
     if (!PendingEnding.empty() && PendingEnding != "ի "_ft && !ArticleEnding.empty()) ArticleEnding.clear();
     teqst_dblclick();
+    // The user chose to add the word: the scanner leaves before the endings and the delimiter,
+    // which the resumed run handles once the word has its record.
+    if (AnswerCode == kAnswerYes) return false;
     wordEndTail(c());
 
     // The delimiter itself.

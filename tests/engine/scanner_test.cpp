@@ -218,11 +218,24 @@ TEST(Scanner, RunWaitsOnAnUnknownWordWithScanPosOnItsDelimiter) {
     EXPECT_EQ(f.engine->ScanPos, 9);  // the blank after "zorb"
     EXPECT_EQ(f.host.addWordPanelWord, "zorb");
     EXPECT_EQ(f.engine->AnswerCode, kAnswerYes);
+    EXPECT_EQ(toUtf8(f.engine->OutputText), "մեծ ");  // the delimiter waits for the word
 
     const InsertResult r = f.engine->saveWordAndResume("zorb", ft("զորբ"), "a");
     EXPECT_TRUE(r.error.empty());
     EXPECT_EQ(f.engine->state, RunState::Idle);
     EXPECT_EQ(toUtf8(f.host.result), "մեծ զորբ կարմիր: ");
+}
+
+TEST(Scanner, DelimiterAfterAWaitingWordIsWrittenOnceAfterIt) {
+    for (const auto& [text, expected] : {std::pair<std::string, std::string>{"big zorb, red", "մեծ զորբ, կարմիր "},
+                                         {"big zorb.", "մեծ զորբ: "}}) {
+        EngineFixture f(kSmallLexicon);
+        f.host.answers = {kAnswerYes, kAnswerYes};
+        f.translate(text);
+        ASSERT_EQ(f.engine->state, RunState::Waiting) << text;
+        f.engine->saveWordAndResume("zorb", ft("զորբ"), "a");
+        EXPECT_EQ(toUtf8(f.host.result), expected);
+    }
 }
 
 TEST(Scanner, ResumedRunWithoutTheWordLeavesItUntranslated) {
