@@ -125,14 +125,14 @@ TEST(Lookup, HeldConjunctionFollowsTheNounAndItsEnding) {
 }
 
 const std::string kVerbFormLexicon =
-    "made\tարան\tx\n"
-    "maker\tարաք\tx\n"
-    "make\tարա\tx\n"
-    "makes\tարանք\tx\n"
-    "go\tգնեք\tx\n"
-    "read\tկարդեք\tx\n"
-    "know\tգիտենեք\tx\n"
-    "gone\tգնեք\tx\n";
+    "made\tարան\tv\n"
+    "maker\tարաք\tv\n"
+    "make\tարա\tv\n"
+    "makes\tարանք\tv\n"
+    "go\tգնեք\tv\n"
+    "read\tկարդեք\tv\n"
+    "know\tգիտենեք\tv\n"
+    "gone\tգնեք\tv\n";
 
 std::string emitted(EngineFixture& f, const char* word, int person = 0) {
     Engine& e = *f.engine;
