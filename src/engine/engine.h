@@ -192,6 +192,7 @@ public:
     Flag CouldFlag;
     Flag ClockFlag;
     Flag WorkVerbFlag;
+    Flag SpeechVerbFlag;      // a verb of speech stood before: "on the phone" is "by phone"
     Flag ConditionalFlag;     // "would" or "should" seen
     FontText NoApostropheMark;  // "n't": the "have" forms take no person ending
     Flag GenitiveMark;        // a possessive "'s" made the word a genitive
