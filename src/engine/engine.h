@@ -88,6 +88,7 @@ public:
     void pokr();            // capitalise the first letter of WordGloss
     void pokr2();           // capitalise the first letter of RawWord, clear CapitalFlag
     void derocz();          // agree PendingCopula with the person
+    void dasakan_tver();    // an ordinal after a tens word: one compound ordinal
     // Steps B to F of the English-to-Armenian path: question opening, record history, tag
     // rewriting, definite ending, class trail.
     void emitSteps_B_to_F();
@@ -111,6 +112,8 @@ public:
     // ---- End of run ----------------------------------------------------------------------
     void TransEndProcedure();
     void poqr_uxxumner1();  // final repairs by the pair list uxxuma / uxxume
+    void CTYD();            // dialect repairs of the result pane by the pair list uxxumy
+    std::int64_t ReplacementCount = 0;  // pairs of uxxumy that CTYD applied
 
     // ---- Resets --------------------------------------------------------------------------
     void resetWord();      // W: CurrentWord, WordGloss, ToMark, VerbFormMark, CapitalFlag, GenitiveMark
@@ -245,6 +248,7 @@ private:
     void progressStep();
     bool matchEnglishRecord(std::string_view key) const;
     void emitWordT();
+    void placeNounAfterNoun();  // step S of the inflection
 
     int lastProgress_ = -1;
     std::unordered_set<FontText> termsIndex_;  // the TermsFile's words of this run, for the search

@@ -107,7 +107,8 @@ void Engine::emitWordT() {
         WordGloss += HeldConjunction;
         PendingEnding.clear();
         HeldConjunction.clear();
-    } else {
+    } else if (tag1 == 'v') {
+        // Fixes of verb forms only: nouns in "-արան" (library, university) keep their ending.
         replaceTail(WordGloss, "արան"_ft, "արեցին"_ft) || replaceTail(WordGloss, "արաք"_ft, "արեցիք"_ft) ||
             (PersonCode == 1 && replaceTail(WordGloss, "արա"_ft, "արեցի"_ft)) ||
             (PersonCode == 3 && replaceTail(WordGloss, "արանք"_ft, "արեցինք"_ft));

@@ -1,0 +1,120 @@
+// The end of a run: the sentence state cleared, the result repaired by the pair list and shown,
+// the time it took, the words left untranslated, and the run's resets. Also the dialect repair
+// of the result pane, which works the same way on its own pair list.
+#include <chrono>
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+#include "engine/engine.h"
+
+namespace vorlexa {
+
+using namespace literals;
+
+namespace {
+
+constexpr int kPairRecordWidth = 100;    // uxxuma, uxxume: find and replace, 50 characters each
+constexpr int kDialectRecordWidth = 40;  // uxxumy: find and replace, 20 characters each
+
+// One half of a pair record: trimmed, then stripped of the marks around it, so that a value may
+// begin or end in a blank. A half too short to hold its marks holds nothing.
+std::string_view pairHalf(std::string_view record, std::size_t start1, std::size_t width) {
+    const std::string_view marked = trimBlanks(mid(record, start1, width));
+    if (marked.size() < 2) return {};
+    return marked.substr(1, marked.size() - 2);
+}
+
+// Every occurrence, left to right; the replacement is not searched again.
+void replaceAll(FontText& text, std::string_view find, std::string_view with) {
+    if (find.empty()) return;
+    std::size_t pos = 0;
+    while ((pos = text.find(find, pos)) != FontText::npos) {
+        text.replace(pos, find.size(), with);
+        pos += with.size();
+    }
+}
+
+}  // namespace
+
+void Engine::poqr_uxxumner1() {
+    const std::string name = std::string("uxxum") + (Check1 == 0 ? "a" : "e");
+    RecordFile pairs;
+    if (!pairs.open(dataFolder / name, kPairRecordWidth)) return;
+    // The list is read to its last record but one.
+    const std::int64_t count = static_cast<std::int64_t>(pairs.byteLength() / kPairRecordWidth) - 1;
+    for (std::int64_t n = 1; n <= count; ++n) {
+        const std::string record = pairs.read(n);
+        replaceAll(OutputText, pairHalf(record, 1, kPairRecordWidth / 2),
+                   pairHalf(record, kPairRecordWidth / 2 + 1, kPairRecordWidth / 2));
+    }
+}
+
+void Engine::CTYD() {
+    WordGloss = host.resultText();
+    RecordFile pairs;
+    if (pairs.open(dataFolder / "uxxumy", kDialectRecordWidth)) {
+        const auto count = static_cast<std::int64_t>(pairs.byteLength() / kDialectRecordWidth);
+        for (std::int64_t n = 1; n <= count; ++n) {
+            const std::string record = pairs.read(n);
+            const std::string_view find = pairHalf(record, 1, kDialectRecordWidth / 2);
+            if (find.empty()) continue;
+            replaceAll(WordGloss, find, pairHalf(record, kDialectRecordWidth / 2 + 1, kDialectRecordWidth / 2));
+            ++ReplacementCount;
+        }
+    }
+    host.setResultText(WordGloss);
+    WordGloss.clear();
+}
+
+void Engine::TransEndProcedure() {
+    resetSentence();
+    if (SpellMode != 1) {
+        host.setResultText(OutputText);
+        SourceText.clear();
+        poqr_uxxumner1();
+        host.setResultText(OutputText);
+        if (host.progressShown() && !checked(MenuItem::Chat)) host.showProgress(false);
+        if (!checked(MenuItem::ITR)) {
+            // Minutes and seconds of the elapsed time, each as a clock shows it.
+            constexpr long long kSecondsPerMinute = 60;
+            constexpr long long kMinutesPerHour = 60;
+            const auto elapsed =
+                std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - TimeOfStart)
+                    .count();
+            const std::string minutes = std::to_string(elapsed / kSecondsPerMinute % kMinutesPerHour);
+            const std::string seconds = std::to_string(elapsed % kSecondsPerMinute);
+            host.setTitle({"Translated in " + minutes + " minutes and " + seconds + " seconds.",
+                           FontText("Թարգմանությունը տևեց "_ft) + minutes + FontText(" րոպե և "_ft) + seconds +
+                               FontText(" վայրկյան:"_ft)});
+        }
+        if (checked(MenuItem::SUT) && TermsFile.isOpen() && TermsFile.recordCount() > 0) {
+            FontText list;
+            for (std::int64_t n = 1; n <= TermsFile.recordCount(); ++n) {
+                if (n > 1) list += ", ";
+                list += FontText(trimBlanks(TermsFile.read(n)));
+            }
+            OutputText += "\r\n***\r\n";
+            OutputText += checked(MenuItem::AMN) ? FontText("ՉԹԱՐԳՄԱՆՎԱԾ ՏԵՐՄԻՆՆԵՐԸ."_ft)
+                                                 : FontText("LIST OF NON-TRANSLATED TERMS");
+            OutputText += "\r\n";
+            OutputText += list;
+            host.setResultText(OutputText);
+            host.setChecked(MenuItem::SUT, false);
+        }
+    } else {
+        host.notify({{"Spell-Check is completed.", FontText("Սխալների ուղղումն ավարտվեց:"_ft)},
+                     {"Spellchecker", FontText("Սխալների ուղղում"_ft)}});
+        host.setResultText(SourceText);
+    }
+    TermsFile = RecordFile();
+    std::error_code ignored;
+    std::filesystem::remove(dataFolder / kTermsFileName, ignored);
+    host.setBusy(false);
+    resetRun();
+    host.clearWordList();
+    host.setSaveEnabled(true);
+    host.setChecked(MenuItem::IMPV, false);
+}
+
+}  // namespace vorlexa
