@@ -101,6 +101,7 @@ public:
     void notFoundPath();       // a word no record matched
     bool retryUnknownWord();   // stemming before the word counts as unknown; true if found
     void reportUnknownWord();  // the TermsFile, the questions, the word left in the text
+    void ArTr();               // spell-check: the lone "ա" offers the dialect repair
 
     // ---- Procedures of the dispatch and the rules ---------------------------------------
     TriggerReturn triggerSelect();  // the trigger-word dispatch of the current direction
@@ -251,6 +252,7 @@ private:
     void placeNounAfterNoun();  // step S of the inflection
 
     int lastProgress_ = -1;
+    int notFoundDepth_ = 0;  // not-found paths under way for the word being looked up
     std::unordered_set<FontText> termsIndex_;  // the TermsFile's words of this run, for the search
 };
 

@@ -1,5 +1,7 @@
 // Words no record matched: the TermsFile of the run, the questions, and the word left in the
 // text as it stands.
+#include <optional>
+
 #include "engine/engine.h"
 
 namespace vorlexa {
@@ -9,6 +11,9 @@ using namespace literals;
 namespace {
 
 constexpr std::size_t kHideWindowTextLength = 4000;  // longer texts run on unattended, minimised
+constexpr int kMaxAnalysisDepth = 64;  // each layer peels an ending; a deeper chain would be a loop
+// The analysis of a word writes, cuts and inserts only among the last words of the output.
+constexpr std::size_t kOutputTouched = 256;
 
 Question firstUnknownQuestion() {
     Question q;
@@ -46,10 +51,97 @@ Question perWordQuestion(const FontText& word, bool spellMode) {
 
 }  // namespace
 
+// The not-found path drives the ending analysis: hayqer rewrites the word and looks it up, and a
+// look-up that fails comes back here with the shorter word. LastStemmed stops a word that the
+// analysis cannot change any more.
 void Engine::notFoundPath() {
+    // The user is adding a word: nothing more of it is analysed or asked about.
+    if (AnswerCode == kAnswerYes && SpellMode != 1) {
+        CurrentWord.clear();
+        return;
+    }
+    const bool outermost = notFoundDepth_ == 0;
+    // What the analysis of this word may change, kept so that a pause can take it back.
+    struct Before {
+        FontText word, pendingEnding, articleEnding, verbFormMark, insertText, outputTail, lastStemmed;
+        std::int64_t scanPos, englishAuxBack;
+        std::size_t keptOutput;
+        Flag futureParticle, caseEndingSeen, singularPast, secondPerson, thirdPerson, participleGuess;
+    };
+    std::optional<Before> before;
+    if (outermost) {
+        const std::size_t kept = OutputText.size() > kOutputTouched ? OutputText.size() - kOutputTouched : 0;
+        before = Before{CurrentWord,
+                        PendingEnding,
+                        ArticleEnding,
+                        VerbFormMark,
+                        InsertText,
+                        OutputText.substr(kept),
+                        LastStemmed,
+                        ScanPos,
+                        EnglishAuxBack,
+                        kept,
+                        FutureParticle,
+                        CaseEndingSeen,
+                        SingularPast,
+                        SecondPersonEnding,
+                        ThirdPersonEnding,
+                        ParticipleGuess};
+    }
+
+    ++notFoundDepth_;
     LastSeenWord = CurrentWord;
-    if (LastSeenWord != LastStemmed && retryUnknownWord()) return;
-    reportUnknownWord();
+    const bool placed = notFoundDepth_ <= kMaxAnalysisDepth && LastSeenWord != LastStemmed && retryUnknownWord();
+    if (!placed && !(AnswerCode == kAnswerYes && SpellMode != 1)) reportUnknownWord();
+    --notFoundDepth_;
+
+    // The run pauses on this word: it is translated afresh when the run resumes, so what the
+    // analysis wrote or set for it is taken back.
+    if (before && AnswerCode == kAnswerYes && SpellMode != 1) {
+        CurrentWord = before->word;
+        PendingEnding = before->pendingEnding;
+        ArticleEnding = before->articleEnding;
+        VerbFormMark = before->verbFormMark;
+        InsertText = before->insertText;
+        LastStemmed = before->lastStemmed;
+        ScanPos = before->scanPos;
+        EnglishAuxBack = before->englishAuxBack;
+        OutputText.resize(before->keptOutput);
+        OutputText += before->outputTail;
+        FutureParticle = before->futureParticle;
+        CaseEndingSeen = before->caseEndingSeen;
+        SingularPast = before->singularPast;
+        SecondPersonEnding = before->secondPerson;
+        ThirdPersonEnding = before->thirdPerson;
+        ParticipleGuess = before->participleGuess;
+    }
+}
+
+bool Engine::retryUnknownWord() {
+    // A stem that doubled its last letter before a participle ending: "stopp" of "stopping".
+    const bool participle = VerbFormMark == "ած"_ft || VerbFormMark == "ող"_ft || VerbFormMark == "ում"_ft;
+    if (CurrentWord.size() > 2 && (participle || !SecondLook.empty()) &&
+        CurrentWord[CurrentWord.size() - 1] == CurrentWord[CurrentWord.size() - 2]) {
+        CurrentWord.pop_back();
+        SecondLook.clear();
+    }
+    if (CurrentWord.ends_with("ե"_ft)) {
+        CurrentWord.pop_back();
+        UnicodeCount = "»"_ft;
+        teqst_dblclick();
+    }
+    hayqer();
+    LastStemmed = CurrentWord;
+    if (CurrentWord == LastSeenWord) {
+        // The analysis changed nothing; a stem whose "ի" was cut may be a verb in "իալ".
+        if (StemEndFlag != "ի"_ft) return false;
+        CurrentWord += "ալ"_ft;
+        StemEndFlag.clear();
+        teqst_dblclick();
+        return true;
+    }
+    teqst_dblclick();
+    return true;
 }
 
 void Engine::reportUnknownWord() {
@@ -96,6 +188,7 @@ void Engine::reportUnknownWord() {
             // The add-word panel opens and the scanner leaves at this word's end; the run goes
             // on when the panel is saved.
             if (SpellMode == 1 && CapitalFlag == 1) pokr2();
+            if (SpellMode == 1 && RawWord == "ա"_ft) ArTr();
             host.openAddWordPanel(RawWord);
             return;
         }
@@ -115,6 +208,19 @@ void Engine::reportUnknownWord() {
     OutputText += ArticleEnding;
     CurrentWord.clear();
     QuestionMarkHold.clear();
+}
+
+// "ա" alone is the Yerevan dialect's "է": the whole result can be repaired by the dialect pairs.
+void Engine::ArTr() {
+    Question q;
+    q.kind = QuestionKind::DialectRepair;
+    q.text.english = "Your text contains elements of Yerevan dialect. Shall we correct them?";
+    q.text.armenian = FontText("Տեքստը պարունակում է արարատյան բարբառի տարրեր: Սրբագրե՞լ:"_ft);
+    q.title = {"Warning", "Warning"};
+    q.buttons = Buttons::YesNo;
+    q.subject = RawWord;
+    AnswerCode = host.ask(q);
+    if (AnswerCode == kAnswerYes) CTYD();
 }
 
 // The user does not want to be asked: a long text goes on unattended.
