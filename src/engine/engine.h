@@ -195,6 +195,8 @@ public:
     Flag CanFlag;
     Flag CouldFlag;
     Flag ClockFlag;
+    std::int64_t AncavCount = 0;     // "անցավ" met in the sentence that begins at AncavSentence
+    std::int64_t AncavSentence = 0;
     Flag WorkVerbFlag;
     Flag SpeechVerbFlag;      // a verb of speech stood before: "on the phone" is "by phone"
     Flag ConditionalFlag;     // "would" or "should" seen

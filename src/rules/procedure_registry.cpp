@@ -7,6 +7,7 @@
 #include "rules/english_expressions.h"
 #include "rules/phrasal_verbs.h"
 #include "rules/verb_families.h"
+#include "rules/armenian_expressions.h"
 
 namespace vorlexa {
 
@@ -152,6 +153,45 @@ const std::unordered_map<std::string_view, RuleProcedure>& registry() {
         {"dyu", dyu},
         {"herakhosel", herakhosel},
         {"lezu", lezu},
+        {"mekangam", mekangam},
+        {"ameninch", ameninch},
+        {"dyuzninch", dyuzninch},
+        {"ancav", ancav},
+        {"ansharzhguyq", ansharzhguyq},
+        {"apatewoch", apatewoch},
+        {"teche", teche},
+        {"ardenisk", ardenisk},
+        {"barevdzez", barevdzez},
+        {"barigood", barigood},
+        {"bariluyss", bariluyss},
+        {"luys", luys},
+        {"mecgood", mecgood},
+        {"bozi_txa", bozi_txa},
+        {"hazivte", hazivte},
+        {"esteutyan", esteutyan},
+        {"zhamslak", zhamslak},
+        {"ibrevte", ibrevte},
+        {"dsk", dsk},
+        {"hogtanel", hogtanel},
+        {"hordancrev", hordancrev},
+        {"harkkar", harkkar},
+        {"chishtnasac", chishtnasac},
+        {"odin", odin},
+        {"mekayl", mekayl},
+        {"menmenak", menmenak},
+        {"MiddlEast", MiddlEast},
+        {"shers", shers},
+        {"hamarist", hamarist},
+        {"xmas", xmas},
+        {"verimuch", verimuch},
+        {"shabat", shabat},
+        {"shutara", shutara},
+        {"wordiw", wordiw},
+        {"petqe", petqe},
+        {"vaxteush", vaxteush},
+        {"ors", ors},
+        {"tak", tak},
+        {"teqst_dblclick", teqst_dblclick},
     };
     return table;
 }
