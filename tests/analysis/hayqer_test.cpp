@@ -595,3 +595,61 @@ TEST(EndingAnalysisSequence, AVeryLongWordEnds) {
 
 }  // namespace
 }  // namespace vorlexa::test
+
+namespace vorlexa::test {
+namespace {
+
+// A word one letter short of each row: with its last letter changed, no row of any stage holds it,
+// and the word is left unknown, as typed.
+TEST(EndingAnalysisMisses, OneLetterOffEachRowLeavesTheWordUnknown) {
+    const char* const words[] = {
+        // stage 5
+        "խաղացինժ", "մոտեցանժ", "գրելուժ", "խաղալուժ", "խաղացրեժ",
+        // stage 4
+        "քաղաքակաժ", "հինգամյժ", "խաղացիժ", "սիրեցեժ", "խաղալիժ", "գրելուժ", "խաղացեժ", "խաղալոժ",
+        "ազատությաժ", "խաղմամժ", "խաղացրեժ", "ազատությամժ",
+        // stage 3
+        "սիրեիժ", "խաղմաժ", "սիրեինժ", "խաղացժ", "տղանեժ", "սիրենժ", "գրուժ",
+        // stage 2
+        "գրքեժ", "սիրեժ", "գրոժ", "գրիժ", "խաղաժ", "խաղեժ", "սիրեժ", "խաղաժ", "խաղաժ", "ձեռքիժ", "տղայիժ",
+        "նավոժ", "տանիժ", "մարդուժ", "տանժ",
+        // stage 1
+        "տղաժ", "գիրքժ",
+    };
+    for (const char* word : words) EXPECT_EQ(lookUp(word), word);
+}
+
+// A word of the row's ending but too short for its stage goes on to the next stage.
+TEST(EndingAnalysisMisses, LengthGuardsPassAWordOn) {
+    EXPECT_EQ(lookUp("կելիս"), "my կելիս");  // five letters: stage 2 reads "իս"
+    EXPECT_EQ(lookUp("խացել"), "խացել");     // five letters: stage 2 reads "ել"
+    EXPECT_EQ(lookUp("խելով"), "with խելով");  // five letters: stage 2 reads "ով"
+    EXPECT_EQ(lookUp("գամյա").find("years old"), std::string::npos);
+}
+
+TEST(EndingAnalysis, OutAndMonthStemsGoToTheStemClassesFromStage1) {
+    HyEnFixture f;
+    EXPECT_EQ(f.analyse("դրս"), "դուրս");
+    HyEnFixture g;
+    EXPECT_EQ(g.analyse("ամս"), "ամիս");
+}
+
+TEST(EndingAnalysis, ErnHasNoRuleOfItsOwn) {
+    HyEnFixture f;
+    EXPECT_EQ(f.lookUp("գրքերն"), "book");
+    EXPECT_EQ(f.e().PendingEnding, "s");
+}
+
+TEST(EndingAnalysis, AWordWiderThanAKeyGoesToTheAnalysisFromTheScanner) {
+    HyEnFixture f;
+    // Twenty-one letters: at the last one the scanner hands the word to the analysis, which finds
+    // "the most " and looks up the rest.
+    const std::string word = "ամենա" + std::string("զզզզզզզզզզզզզզզզ");
+    ASSERT_EQ(fromUtf8(word).size(), 21u);
+    const std::string out = f.translate(word);
+    EXPECT_EQ(f.engine->stats.longWordAnalyses, 1);
+    EXPECT_TRUE(out.starts_with("the most ")) << out;
+}
+
+}  // namespace
+}  // namespace vorlexa::test
