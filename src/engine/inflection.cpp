@@ -129,6 +129,7 @@ void Engine::inflect_G_to_S() {
         }
         // "թողնել" is its own verb reading.
         if (gloss == "տալ"_ft) {
+            // "տալիս" is the whole participle: the mark is spent on it.
             if (ModalFlag == 1) {
                 gloss = "տա"_ft;
                 if (PersonCode == 1) gloss += "մ"_ft;
@@ -137,6 +138,7 @@ void Engine::inflect_G_to_S() {
                 else if (PersonCode == 4) gloss += "ն"_ft;
             } else {
                 gloss = "տալիս"_ft;
+                VerbFormMark.clear();
             }
         }
         if (gloss == "ամբողջական"_ft || gloss == "գետին"_ft) {
@@ -150,6 +152,7 @@ void Engine::inflect_G_to_S() {
     }
 
     // H. Irregular nouns and the words with forms of their own.
+    bool pluralPerson = false;  // a week day or a plural noun: person 4, which P keeps
     if (gloss == "մարդ"_ft) {
         if (!ending.empty() && ending != "ով"_ft) gloss = "մարդու"_ft;
     } else if (gloss == "քույր"_ft || gloss == "տեր"_ft || gloss == "կին"_ft || gloss == "կանայք"_ft) {
@@ -224,6 +227,7 @@ void Engine::inflect_G_to_S() {
         if (oneOf(ending, {"ի մեջ"_ft, "ի վրա"_ft, "ով"_ft})) ending = "ին"_ft;
     } else if (inList(gloss, kWeekDays) || inList(gloss, kPluralNouns)) {
         PersonCode = 4;
+        pluralPerson = true;
         if (ending == "ներ"_ft) ending.clear();
     } else if (gloss == "համբույր"_ft || gloss == "զրույց"_ft) {
         if (!VerbFormMark.empty() && gloss.size() >= 2) gloss.erase(gloss.size() - 2, 1);
@@ -398,7 +402,7 @@ void Engine::inflect_G_to_S() {
     } else if (oneOf(gloss, {"պիտի"_ft, "պետք է"_ft, "will"})) {
         ModalFlag = 1;
     } else if (isNoun()) {
-        PersonCode = (inList(gloss, kPluralNouns) || ending.ends_with("եր"_ft)) ? 4 : 5;
+        PersonCode = (pluralPerson || inList(gloss, kPluralNouns) || ending.ends_with("եր"_ft)) ? 4 : 5;
     }
     if (ImperativeFlag == 1 && oneOf(gloss, {"ես"_ft, "մենք"_ft, "նրանք"_ft})) ImperativeFlag.clear();
 

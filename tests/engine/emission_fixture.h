@@ -53,15 +53,29 @@ public:
     }
 
     // The steps of a look-up on their own: the word as a rule or the scanner leaves it, with
-    // ScanPos on the delimiter after it in SourceText.
-    std::string lookUp(const std::string& word, const std::string& source = "") {
+    // ScanPos on the delimiter after it in SourceText (by default the word and one blank).
+    // Returns OutputText in UTF-8.
+    std::string lookUp(const std::string& word, const std::string& source = "", std::int64_t scanPos = 0) {
         Engine& e = *engine;
         e.Check1 = 0;
         e.SourceText = fromUtf8(source.empty() ? word + " " : source);
-        if (e.ScanPos < 1) e.ScanPos = 1;
+        e.ScanPos = scanPos > 0 ? scanPos : static_cast<std::int64_t>(fromUtf8(word).size()) + 1;
         e.CurrentWord = fromUtf8(word);
         e.teqst_dblclick();
         return toUtf8(e.OutputText);
+    }
+
+    // The scanner over a text from its first character, with the state set up as a rule before
+    // it would leave it; returns the result pane without the blank the text ends in.
+    std::string scanFrom(const std::string& text) {
+        Engine& e = *engine;
+        e.Check1 = 0;
+        e.SourceText = fromUtf8(text + " ");
+        e.ScanPos = 1;
+        e.ankap0_DblClick();
+        std::string result = toUtf8(host.result);
+        if (!result.empty() && result.back() == ' ') result.pop_back();
+        return result;
     }
 
     TempFolder folder_;
