@@ -38,11 +38,15 @@ TEST(Lookup, HousesFindsHouseThroughThePluralRule) {
     EXPECT_EQ(e.DictRecord.key(), "house");
     EXPECT_EQ(e.stats.unknownOccurrences, 0);
 
+    // Without the pending plural the walk matches nothing; the ending analysis then takes the
+    // "s" off and finds the word after all.
     e.CurrentWord = "houses";
     e.RawWord = "houses";
     e.PendingEnding.clear();
+    e.DictRecord = DictRecord();
     e.teqst_dblclick();
-    EXPECT_EQ(e.stats.unknownOccurrences, 1);
+    EXPECT_EQ(e.DictRecord.key(), "house");
+    EXPECT_EQ(e.stats.unknownOccurrences, 0);
 }
 
 TEST(Lookup, GetPhraseFallsBackToTheRestAndTheWordTail) {
