@@ -204,6 +204,7 @@ public:
     Flag GenitiveMark;        // a possessive "'s" made the word a genitive
     Flag CopulaUsedMark;      // the held copula was joined to a word
     std::int64_t QuestionMarkPosition = 0;  // where the moved question word's sign stands; 0 none
+    std::int64_t ReorderCounter = 0;  // set to 1 by an indefinite article
     FontText LastSeenWord;
     FontText LastStemmed;
     FontText StemEndFlag;     // the last letter a one-letter strip removed

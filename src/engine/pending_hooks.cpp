@@ -10,10 +10,6 @@ namespace vorlexa {
 
 using namespace literals;
 
-// The ending procedures of the prepositions land in src/rules/.
-void Engine::qezanic() {}
-void Engine::qo_mej() {}
-
 // The spell-check pass, which follows the scanner in the result pane, lands in src/spell/.
 void Engine::textselection() {}
 

@@ -4,6 +4,8 @@
 #include <unordered_map>
 
 #include "engine/engine.h"
+#include "rules/prepositions.h"
+#include "rules/rule_contract.h"
 #include "rules/english_expressions.h"
 #include "rules/phrasal_verbs.h"
 #include "rules/verb_families.h"
@@ -15,6 +17,34 @@ namespace {
 
 const std::unordered_map<std::string_view, RuleProcedure>& registry() {
     static const std::unordered_map<std::string_view, RuleProcedure> table{
+        {"mctn", mctn},
+        {"pokrmc", pokrmc},
+        {"ToBeOrNotToBe", ToBeOrNotToBe},
+        {"EmEEnEin", EmEEnEin},
+        {"cnto", cnto},
+        {"kkamenal", kkamenal},
+        {"kkamenalPlyus", kkamenalPlyus},
+        {"erbeq", erbeq},
+        {"woch", woch},
+        {"karox", karox},
+        {"cavumem", cavumem},
+        {"hon", hon},
+        {"nshnk", nshnk},
+        {"AtProcedure", AtProcedure},
+        {"FromProcedure", FromProcedure},
+        {"ByProcedure", ByProcedure},
+        {"WithProcedure", WithProcedure},
+        {"OnProcedure", OnProcedure},
+        {"InProcedure", InProcedure},
+        {"ForProcedure", ForProcedure},
+        {"OutOfProcedure", OutOfProcedure},
+        {"yetqe", yetqe},
+        {"after", after},
+        {"zqez", zqez},
+        {"AAnProcedure", AAnProcedure},
+        {"DefArtProcedure", DefArtProcedure},
+        {"QwestionWorsProcedure", QwestionWorsProcedure},
+        {"oof", oof},
         {"TakeProcedure", TakeProcedure},
         {"TaksProcedure", TaksProcedure},
         {"TakingProcedure", TakingProcedure},
