@@ -41,6 +41,34 @@ TEST(EnglishSelectTable, EveryTriggerWordReachesItsFirstRow) {
     EXPECT_GT(words, 500u);
 }
 
+TEST(ArmenianSelectTable, EveryTriggerWordReachesARowThatHoldsIt) {
+    const TriggerTable& table = armenianTriggerTable();
+    ASSERT_FALSE(table.rows().empty());
+    for (const TriggerRow& row : table.rows()) {
+        for (std::string_view w : row.words) {
+            const TriggerRow* first = table.find(w);
+            ASSERT_NE(first, nullptr);
+            EXPECT_TRUE(first->holds(w));
+        }
+    }
+}
+
+// Every procedure a row names is built, but for `MyusKoxmic` ("other"), whose behaviour no rule
+// describes: that row falls to the look-up.
+TEST(SelectTables, EveryNamedProcedureIsBuilt) {
+    for (const TriggerTable* table : {&englishTriggerTable(), &armenianTriggerTable()}) {
+        for (const TriggerRow& row : table->rows()) {
+            if (row.kind != RowKind::Procedure || row.procedure == "MyusKoxmic") continue;
+            EXPECT_NE(findProcedure(row.procedure), nullptr) << row.procedure;
+        }
+    }
+    EXPECT_EQ(findProcedure("MyusKoxmic"), nullptr);
+    RuleFixture f;
+    Engine& e = f.at("other side", "other");
+    EXPECT_EQ(e.triggerSelect(), F);
+    EXPECT_EQ(f.word(), "other");
+}
+
 TEST(EnglishSelectTable, RowsOfEachKind) {
     std::size_t procedures = 0, selects = 0, rules = 0;
     for (const TriggerRow& row : englishTriggerTable().rows()) {
