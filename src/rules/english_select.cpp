@@ -290,6 +290,18 @@ std::vector<TriggerRow> selectRows() {
 
 // ---- The longer rules of the select ------------------------------------------------------------
 
+// "not " after the word. A contraction reaches these rules with ScanPos moved back before its
+// rest ("can't", "don't" before "n't", "didn't" before "'t"), and that rest is the negation, with
+// the same length as "not ", so the skip lands on the delimiter after it.
+bool nextIsNot(const Engine& e, std::string_view contractedRest) {
+    if (e.nextIs("not ")) return true;
+    if (e.ContractionFlag != 1) return false;
+    if (e.nextIs(contractedRest)) return true;
+    FontText typographic(contractedRest);
+    typographic[typographic.find('\'')] = static_cast<char>(font::kRightSingleQuote);
+    return e.nextIs(typographic);
+}
+
 // The person form after "can" and "may". PersonCode 5 ends the rule early.
 TriggerReturn canMay(Engine& e) {
     if (!e.PendingEnding.empty() && e.CurrentWord == "may") {
@@ -304,7 +316,7 @@ TriggerReturn canMay(Engine& e) {
     if (e.nextIs("be ")) {
         e.CurrentWord = "possible";
         e.ScanPos += 3;
-    } else if (e.nextIs("not ")) {
+    } else if (nextIsNot(e, "n't ")) {
         e.OutputText += "չ"_ft;
         e.ScanPos += 4;
     } else {
@@ -334,7 +346,7 @@ TriggerReturn canMay(Engine& e) {
 }
 
 TriggerReturn couldMight(Engine& e) {
-    if (e.nextIs("not ")) {
+    if (nextIsNot(e, "n't ")) {
         e.OutputText += "չ"_ft;
         e.ScanPos += 4;
     } else {
@@ -371,7 +383,7 @@ TriggerReturn shallWillMust(Engine& e) {
 
 TriggerReturn did(Engine& e) {
     if (e.ContractionFlag == 1) e.CurrentWord.clear();
-    if (e.nextIs("not ")) {
+    if (nextIsNot(e, "'t ")) {
         e.CurrentWord.clear();
         e.ScanPos += 3;
         e.NoApostropheMark = "n't";
@@ -389,7 +401,7 @@ TriggerReturn did(Engine& e) {
 
 TriggerReturn doRule(Engine& e) {
     if (e.ContractionFlag == 1 || e.nextIs("love")) e.CurrentWord.clear();
-    if (!e.nextIs("not ")) return F;
+    if (!nextIsNot(e, "n't ")) return F;
     e.CurrentWord.clear();
     e.ScanPos += 4;
     e.VerbFormMark = FontText("ում"_ft);
@@ -413,7 +425,7 @@ TriggerReturn doesRule(Engine& e) {
         e.CurrentWord.clear();
         e.ThirdPersonFlag.clear();
     }
-    if (e.nextIs("not ")) {
+    if (nextIsNot(e, "n't ")) {
         e.CurrentWord.clear();
         e.ScanPos += 4;
         e.OutputText += "չի"_ft;

@@ -507,5 +507,68 @@ TEST(RuleContract, ContractedWouldHasNoNotToSkip) {
     EXPECT_EQ(f.engine->ConditionalFlag, 1);
 }
 
+// Whole runs of the auxiliaries, worked out from the rules.
+const std::string kAuxiliaryLexicon = kRuleLexicon +
+                                      "it\tդա\tx\n"
+                                      "he\tնա\tx\n"
+                                      "big\tմեծ\ta\n"
+                                      "go\tգնալ\tv\n"
+                                      "books\tգրքեր\tn\n"
+                                      "wolves\tգայլեր\tn\n";
+
+TEST(Auxiliaries, IsntWritesTheNegationBeforeTheVerb) {
+    // "չ" from the contraction, then "is" (on the list of EmEEnEin, no phrase after it) looked up.
+    RuleFixture f(kAuxiliaryLexicon);
+    EXPECT_EQ(f.translate("it isn't big."), "դա չէ մեծ: ");
+}
+
+TEST(Auxiliaries, ItsHoldsTheCopulaForTheNextWord) {
+    // A pronoun's record ("p") takes no copula; the adjective after it does.
+    std::string lexicon = kAuxiliaryLexicon;
+    lexicon.replace(lexicon.find("it\tդա\tx"), std::string("it\tդա\tx").size(), "it\tդա\tp");
+    RuleFixture f(lexicon);
+    EXPECT_EQ(f.translate("It's big."), "Դա մեծ է: ");
+}
+
+TEST(Auxiliaries, DidNotIsThePastNegativeOfThePerson) {
+    // "չէր" for the person of "նա"; the skip lands on the last letter of "not", and the verb takes
+    // the form "ում" that the rule left.
+    RuleFixture f(kAuxiliaryLexicon);
+    EXPECT_EQ(f.translate("he did not go."), "նա չէր գնում: ");
+}
+
+TEST(Auxiliaries, DidntTakesTheNegativeBranch) {
+    RuleFixture f(kAuxiliaryLexicon);
+    EXPECT_EQ(f.translate("he didn't go."), "նա չէր գնում: ");
+}
+
+TEST(Auxiliaries, DontAtTheStartIsTheProhibitive) {
+    // "one-" is "մի", capitalised for "Don't"; the verb then reads as an imperative.
+    RuleFixture f(kAuxiliaryLexicon);
+    EXPECT_EQ(f.translate("Don't go."), "Մի գնացեք: ");
+}
+
+TEST(Auxiliaries, TheyDontIsThePluralNegative) {
+    RuleFixture f(kAuxiliaryLexicon + "they\tնրանք\tx\n");
+    EXPECT_EQ(f.translate("they don't go."), "նրանք չեն գնում: ");
+}
+
+TEST(Auxiliaries, CantNegatesThePersonsForm) {
+    // "չ" and "եմ " for the first person, then "can" itself by the look-up.
+    RuleFixture f(kAuxiliaryLexicon + "i\tես\tx\n");
+    const std::string result = f.translate("I can't go.");
+    EXPECT_TRUE(result.starts_with("Ես չեմ կարող ")) << result;
+}
+
+TEST(Auxiliaries, ThereAreWritesExistAndCutsItsEnding) {
+    RuleFixture f(kAuxiliaryLexicon);
+    EXPECT_EQ(f.translate("there are books."), "գոյություն ուն գրքերը: ");
+}
+
+TEST(Auxiliaries, PackOfWolvesInsertsTheCollectiveNounAndReadsOn) {
+    RuleFixture f(kAuxiliaryLexicon);
+    EXPECT_EQ(f.translate("pack of wolves"), "ոհմակ գայլերի ");
+}
+
 }  // namespace
 }  // namespace vorlexa::contract_test

@@ -277,6 +277,26 @@ TEST(CanMay, NoPersonIsThePlural) {
     EXPECT_EQ(f.output(), "x կարող են ");
 }
 
+TEST(CanMay, AContractionHandsOverItsNegation) {
+    // "can't": the scanner leaves ScanPos two back from the apostrophe, before "n't ".
+    RuleFixture f;
+    Engine& e = f.at("can't go", "can", 2, "x ");
+    e.ContractionFlag = 1;
+    e.PersonCode = 1;
+    EXPECT_EQ(e.triggerSelect(), F);
+    EXPECT_EQ(f.output(), "x չեմ ");
+    EXPECT_EQ(e.ScanPos, 6);
+    Engine& typographic = f.at("can\u2019t go", "can", 2, "x ");
+    typographic.PersonCode = 1;
+    typographic.triggerSelect();
+    EXPECT_EQ(f.output(), "x չեմ ");
+    // Without the contraction mark the rest of a word is no negation.
+    Engine& plain = f.at("can't go", "can", 2, "x ");
+    plain.ContractionFlag.clear();
+    plain.triggerSelect();
+    EXPECT_EQ(f.output(), "x կարող եմ ");
+}
+
 TEST(CanMay, BeIsPossible) {
     RuleFixture f;
     Engine& e = f.at("can be done", "can", 0, "x ");
@@ -374,6 +394,17 @@ TEST(Did, DidNotByPerson) {
     }
 }
 
+TEST(Did, TheContractionIsTheNegation) {
+    RuleFixture f;
+    Engine& e = f.at("didn't go", "did", 4, "x ");
+    e.ContractionFlag = 1;
+    e.PersonCode = 3;
+    EXPECT_EQ(e.triggerSelect(), F);
+    EXPECT_EQ(f.output(), "x չէինք");
+    EXPECT_EQ(e.ScanPos, 7);
+    EXPECT_EQ(f.word(), "");
+}
+
 TEST(Did, NoPersonWritesNothing) {
     RuleFixture f;
     Engine& e = f.at("did not go", "did", 0, "x ");
@@ -432,6 +463,16 @@ TEST(Do, DoNotAtASentenceStartOrImperativeIsTheProhibitive) {
     imp.triggerSelect();
     EXPECT_EQ(f.word(), "one-");
     EXPECT_EQ(f.output(), "x, ");
+}
+
+TEST(Do, TheContractionIsTheNegation) {
+    RuleFixture f;
+    Engine& e = f.at("don't go", "do", 2, "x ");
+    e.ContractionFlag = 1;
+    e.PersonCode = 2;
+    EXPECT_EQ(e.triggerSelect(), R);
+    EXPECT_EQ(f.output(), "x չեք");
+    EXPECT_EQ(e.ScanPos, 6);
 }
 
 TEST(Do, WithoutNotFinishes) {
