@@ -8,7 +8,7 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=${BUILD_DIR:-$root/build}
 out=${1:-$root/packaging/screenshots/main-window.png}
-text=${SCREENSHOT_TEXT:-"The house is big. The book is red."}
+text=${SCREENSHOT_TEXT:-"My house is big. This city is very beautiful. We read books. My brother reads a good book."}
 screen="-screen 0 1024x768x24"
 
 if ! command -v xvfb-run >/dev/null || ! command -v xauth >/dev/null; then
