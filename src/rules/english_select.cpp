@@ -302,6 +302,17 @@ bool nextIsNot(const Engine& e, std::string_view contractedRest) {
     return e.nextIs(typographic);
 }
 
+// A modal followed by "not" writes the negation and steps over it; otherwise its own gloss.
+void negationOrModalGloss(Engine& e) {
+    if (nextIsNot(e, "n't ")) {
+        e.OutputText += "չ"_ft;
+        e.ScanPos += 4;
+    } else {
+        e.teqst_dblclick();
+        e.OutputText += ' ';
+    }
+}
+
 // The person form after "can" and "may". PersonCode 5 ends the rule early.
 TriggerReturn canMay(Engine& e) {
     if (!e.PendingEnding.empty() && e.CurrentWord == "may") {
@@ -316,12 +327,8 @@ TriggerReturn canMay(Engine& e) {
     if (e.nextIs("be ")) {
         e.CurrentWord = "possible";
         e.ScanPos += 3;
-    } else if (nextIsNot(e, "n't ")) {
-        e.OutputText += "չ"_ft;
-        e.ScanPos += 4;
     } else {
-        e.teqst_dblclick();
-        e.OutputText += ' ';
+        negationOrModalGloss(e);
     }
     if (e.PersonCode == 1) {
         e.OutputText += "եմ "_ft;
@@ -346,13 +353,7 @@ TriggerReturn canMay(Engine& e) {
 }
 
 TriggerReturn couldMight(Engine& e) {
-    if (nextIsNot(e, "n't ")) {
-        e.OutputText += "չ"_ft;
-        e.ScanPos += 4;
-    } else {
-        e.teqst_dblclick();
-        e.OutputText += ' ';
-    }
+    negationOrModalGloss(e);
     if (e.PersonCode == 1) {
         e.OutputText += "էի "_ft;
     } else if (e.PersonCode == 2) {
