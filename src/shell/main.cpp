@@ -2,9 +2,12 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QIcon>
+#include <cstdio>
 
+#include "chat/chat_address.h"
 #include "engine/data_folder.h"
 #include "shell/form1.h"
+#include "shell/frm_chat.h"
 
 #ifndef VORLEXA_VERSION
 #define VORLEXA_VERSION "0.0.0"
@@ -25,13 +28,27 @@ int main(int argc, char** argv) {
                                                     "$XDG_DATA_HOME/vorlexa)."),
                                      QStringLiteral("DIR"));
     parser.addOption(dataDir);
+    const QCommandLineOption chatAddress(QStringLiteral("chat-address"),
+                                         QStringLiteral("This machine's address for the chat (default: the "
+                                                        "first private IPv4 address of an interface that is up)."),
+                                         QStringLiteral("ADDRESS"));
+    parser.addOption(chatAddress);
     parser.process(application);
+    std::optional<std::string> ownAddress;
+    if (parser.isSet(chatAddress)) {
+        ownAddress = parser.value(chatAddress).toStdString();
+        if (!vorlexa::chat::isDottedAddress(*ownAddress)) {
+            std::fprintf(stderr, "vorlexa: --chat-address: \"%s\" is not a dotted IPv4 address\n", ownAddress->c_str());
+            return 2;
+        }
+    }
 
     std::optional<std::filesystem::path> fromCommandLine;
     if (parser.isSet(dataDir)) fromCommandLine = parser.value(dataDir).toStdString();
     const std::filesystem::path folder = vorlexa::resolveDataFolder(fromCommandLine);
 
     vorlexa::shell::Form1 window;
+    vorlexa::shell::installChat(window, ownAddress);
     if (window.start(folder, vorlexa::shippedDataFolder()) == vorlexa::app::StartResult::AlreadyRunning) return 1;
     window.show();
     return QApplication::exec();
