@@ -294,9 +294,9 @@ bool frmChat::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-void installChat(Form1& form1, std::optional<std::string> fixedAddress) {
+void installChat(Form1& form1, std::optional<std::string> fixedAddress, chat::WordLookup wordLookup) {
     auto open = std::make_shared<QPointer<frmChat>>();
-    form1.registerCommand(QStringLiteral("Chat"), [&form1, fixedAddress, open] {
+    form1.registerCommand(QStringLiteral("Chat"), [&form1, fixedAddress, wordLookup, open] {
         if (*open) {
             (*open)->showNormal();
             (*open)->raise();
@@ -304,6 +304,7 @@ void installChat(Form1& form1, std::optional<std::string> fixedAddress) {
             return;
         }
         auto* chat = new frmChat(form1, fixedAddress);
+        chat->logic().wordLookup = wordLookup;
         chat->setAttribute(Qt::WA_DeleteOnClose);
         QObject::connect(&form1, &QObject::destroyed, chat, [chat] { delete chat; });
         *open = chat;

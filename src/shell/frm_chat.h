@@ -79,7 +79,8 @@ class frmChat : public QWidget, public chat::ChatView {
 };
 
 // Wires the menu item Chat of `form1`: it opens the chat window, or brings it forward when it is
-// open. `fixedAddress` replaces the search for the own address (--chat-address).
-void installChat(Form1& form1, std::optional<std::string> fixedAddress);
+// open. `fixedAddress` replaces the search for the own address (--chat-address); `wordLookup`
+// is the main window's look-up that a double click in Text1 or Text2 runs on the selection.
+void installChat(Form1& form1, std::optional<std::string> fixedAddress, chat::WordLookup wordLookup = {});
 
 }  // namespace vorlexa::shell

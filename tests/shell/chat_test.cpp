@@ -9,6 +9,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTextCursor>
 #include <QTest>
 #include <QTimer>
 #include <QUdpSocket>
@@ -60,7 +61,7 @@ struct Session {
     std::unique_ptr<Form1> form1;
     frmChat* chat = nullptr;
 
-    Session(const std::filesystem::path& root, const std::string& address) {
+    Session(const std::filesystem::path& root, const std::string& address, chat::WordLookup lookUp = {}) {
         writeFile(root / "src/lexicon/en-hy.tsv", test::kFixtureEnglish);
         writeFile(root / "src/lexicon/hy-en.tsv", test::kFixtureArmenian);
         writeFile(root / "src/help/read.txt", test::kFixtureHelp);
@@ -69,7 +70,7 @@ struct Session {
         form1->setPrompter(&prompter);
         if (form1->start(root / "data", {}) != app::StartResult::Started)
             qFatal("the window did not start");
-        shell::installChat(*form1, address);
+        shell::installChat(*form1, address, std::move(lookUp));
         form1->show();
         form1->findChild<QAction*>(QStringLiteral("Chat"))->trigger();
         for (QWidget* w : QApplication::topLevelWidgets())
@@ -180,6 +181,44 @@ class ChatTest : public QObject {
         QVERIFY(!s.form1->findChild<QAction*>(QStringLiteral("Chat"))->isChecked());
         QVERIFY(!s.form1->findChild<QAction*>(QStringLiteral("ITR"))->isChecked());
         QVERIFY(!s.form1->isMinimized());
+    }
+
+    void theLightListsTheAddressesOfThisMachine() {
+        Session s(root("a"), "127.0.0.1");
+        QTest::mouseClick(s.child<QLabel>("Label2"), Qt::LeftButton);
+        const QStringList lines = s.peers();
+        QVERIFY(!lines.isEmpty());
+        QCOMPARE(lines.first(), QStringLiteral("All Local IPs-Below:"));
+        QVERIFY(lines.contains(QStringLiteral("127.0.0.1")));  // the loopback interface
+    }
+
+    void enterSendsShiftEnterBreaksTheLineAndAnEmptyBoxSendsNothing() {
+        Session s(root("a"), "127.0.0.1");
+        s.pressEnter();
+        QVERIFY(s.conversation().isEmpty());
+        QVERIFY(s.prompter.notices.isEmpty());
+        s.type(QStringLiteral("one"));
+        QTest::keyClick(s.child<QPlainTextEdit>("Text1"), Qt::Key_Return, Qt::ShiftModifier);
+        s.type(QStringLiteral("two"));
+        s.pressEnter();
+        QVERIFY2(s.conversation().endsWith(QStringLiteral(" - YOU SAID:\none\ntwo\n")), qPrintable(s.conversation()));
+    }
+
+    void aDoubleClickInTheInputBoxLooksUpTheWordUnderIt() {
+        QStringList asked;
+        Session s(root("a"), "127.0.0.1", [&asked](const FontText& word) {
+            asked << shell::boxText(word);
+            return FontText("looked up");
+        });
+        s.chat->show();
+        QVERIFY(QTest::qWaitForWindowExposed(s.chat));
+        s.type(QStringLiteral("big house"));
+        auto* box = s.child<QPlainTextEdit>("Text1");
+        QTextCursor at(box->document());
+        at.setPosition(6);
+        QTest::mouseDClick(box->viewport(), Qt::LeftButton, {}, box->cursorRect(at).center());
+        QTRY_COMPARE(asked, QStringList{QStringLiteral("house")});
+        QCOMPARE(box->toolTip(), QStringLiteral("looked up"));
     }
 
     void twoSessionsOnLoopbackFindEachOtherAndTalkTranslated() {
