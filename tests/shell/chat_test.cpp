@@ -7,10 +7,11 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QTextCursor>
 #include <QTest>
+#include <QTextCursor>
 #include <QTimer>
 #include <QUdpSocket>
 #include <filesystem>
@@ -61,7 +62,8 @@ struct Session {
     std::unique_ptr<Form1> form1;
     frmChat* chat = nullptr;
 
-    Session(const std::filesystem::path& root, const std::string& address, chat::WordLookup lookUp = {}) {
+    Session(const std::filesystem::path& root, const std::string& address,
+            chat::WordLookup lookUp = {}) {
         writeFile(root / "src/lexicon/en-hy.tsv", test::kFixtureEnglish);
         writeFile(root / "src/lexicon/hy-en.tsv", test::kFixtureArmenian);
         writeFile(root / "src/help/read.txt", test::kFixtureHelp);
@@ -183,6 +185,14 @@ class ChatTest : public QObject {
         QVERIFY(!s.form1->isMinimized());
     }
 
+    void closingTheMainWindowClosesTheChat() {
+        Session s(root("a"), "127.0.0.1");
+        const QPointer<frmChat> chat = s.chat;
+        s.chat = nullptr;
+        s.form1->close();
+        QTRY_VERIFY(chat.isNull());
+    }
+
     void theLightListsTheAddressesOfThisMachine() {
         Session s(root("a"), "127.0.0.1");
         QTest::mouseClick(s.child<QLabel>("Label2"), Qt::LeftButton);
@@ -201,7 +211,8 @@ class ChatTest : public QObject {
         QTest::keyClick(s.child<QPlainTextEdit>("Text1"), Qt::Key_Return, Qt::ShiftModifier);
         s.type(QStringLiteral("two"));
         s.pressEnter();
-        QVERIFY2(s.conversation().endsWith(QStringLiteral(" - YOU SAID:\none\ntwo\n")), qPrintable(s.conversation()));
+        QVERIFY2(s.conversation().endsWith(QStringLiteral(" - YOU SAID:\none\ntwo\n")),
+                 qPrintable(s.conversation()));
     }
 
     void aDoubleClickInTheInputBoxLooksUpTheWordUnderIt() {
