@@ -183,10 +183,13 @@ void frmChat::stateChanged() {
     Command1->setText(captionText(s.Command1));
     Picture1->setText(s.Picture1 == chat::ChatPicture::Armenian ? QStringLiteral("Աա")
                                                                 : QStringLiteral("Aa"));
-    Label2->setStyleSheet(
-        colours(s.Label2BackColor, s.Label2ForeColor, QPalette::Window, QPalette::WindowText));
-    Text3->setStyleSheet(
-        colours(s.Text3BackColor, s.Text3ForeColor, QPalette::Base, QPalette::Text));
+    // A new style sheet polishes the control again: set it only when the colours change.
+    const QString light =
+        colours(s.Label2BackColor, s.Label2ForeColor, QPalette::Window, QPalette::WindowText);
+    if (Label2->styleSheet() != light) Label2->setStyleSheet(light);
+    const QString address =
+        colours(s.Text3BackColor, s.Text3ForeColor, QPalette::Base, QPalette::Text);
+    if (Text3->styleSheet() != address) Text3->setStyleSheet(address);
     if (fontText(Text3->text()) != s.Text3) Text3->setText(boxText(s.Text3));
     setIfChanged(Text1, s.Text1);
     Text1->setToolTip(boxText(s.Text1ToolTip));
@@ -294,7 +297,8 @@ bool frmChat::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-void installChat(Form1& form1, std::optional<std::string> fixedAddress, chat::WordLookup wordLookup) {
+void installChat(Form1& form1, std::optional<std::string> fixedAddress,
+                 chat::WordLookup wordLookup) {
     auto open = std::make_shared<QPointer<frmChat>>();
     form1.registerCommand(QStringLiteral("Chat"), [&form1, fixedAddress, wordLookup, open] {
         if (*open) {
