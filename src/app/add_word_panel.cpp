@@ -20,7 +20,7 @@ std::string_view panelTranslationHint(Language language) {
     return pick(language, "its translation, then Save", "թարգմանությունը, ապա «Հիշել»");
 }
 
-std::string_view panelTagHint(Language language) { return pick(language, "tag: n, a, v", "պիտակ"); }
+std::string_view panelTagHint(Language language) { return pick(language, "tag", "պիտակ"); }
 
 std::string_view skipCaption(Language language) { return pick(language, "Skip (Esc)", "Բաց թողնել (Esc)"); }
 
