@@ -235,7 +235,8 @@ void MainForm::AMN_Click() {
         const int answer = ask(armenianInterfaceQuestion());
         SkipInterfaceQuestion = answer;
         if (answer == kAnswerYes) return;
-        // The captions can't be read: show the note on the Armenian font from the help text.
+        // The captions can't be read: the note on the Armenian font from the help text takes
+        // the result box, in place of the translation (the source box still holds the text).
         if (const auto note = fontNoteFromHelp(dataFolder_ / kHelpFileName)) view_.setText4(*note);
         if (engine_) engine_->OutputText.clear();
     }
