@@ -389,11 +389,12 @@ void Form1::stateChanged() {
     Command2->setText(captionText(p.Command2));
     Command2->setVisible(p.visible);
     const app::Language language = f.language();
-    Text1->setPlaceholderText(captionText(app::panelWordHint(language)));
-    Text2->setPlaceholderText(captionText(app::panelTranslationHint(language)));
-    Text6->setPlaceholderText(captionText(app::panelTagHint(language)));
     const bool addingWord = p.visible && logic_->engine() && logic_->engine()->state == RunState::Waiting &&
                             !logic_->engine()->SpellMode.isSet();
+    // The hints speak of adding a word; the panel's other uses leave the boxes without them.
+    Text1->setPlaceholderText(addingWord ? captionText(app::panelWordHint(language)) : QString());
+    Text2->setPlaceholderText(addingWord ? captionText(app::panelTranslationHint(language)) : QString());
+    Text6->setPlaceholderText(addingWord ? captionText(app::panelTagHint(language)) : QString());
     SkipWord->setText(captionText(app::skipCaption(language)));
     SkipWord->setVisible(addingWord);
     skipKey_->setEnabled(addingWord);
