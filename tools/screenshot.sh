@@ -26,3 +26,11 @@ mkdir -p "$(dirname "$out")"
 QT_QPA_PLATFORM=xcb xvfb-run -a -s "$screen" \
     "$build/bin/vorlexa-screenshot" --data-dir "$data" --output "$out" --text "$text"
 echo "$out"
+# The add-word panel, stopped at a word the shipped dictionaries lack.
+panel_out=${PANEL_OUTPUT:-$(dirname "$out")/add-word-panel.png}
+panel_text=${PANEL_TEXT:-"My cousin plays the ukulele."}
+panel_data=$(mktemp -d)
+trap 'rm -rf "$data" "$panel_data"' EXIT
+QT_QPA_PLATFORM=xcb xvfb-run -a -s "$screen" \
+    "$build/bin/vorlexa-screenshot" --data-dir "$panel_data" --output "$panel_out" --text "$panel_text" --add-word
+echo "$panel_out"

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <system_error>
 
+#include "app/add_word_panel.h"
 #include "app/help_text.h"
 #include "app/phonetic_keys.h"
 #include "app/settings_file.h"
@@ -228,11 +229,14 @@ void MainForm::AMN_Click() {
     setChecked("AMN", true);
     applyCaptions(Language::Armenian);
     view_.stateChanged();
+    // The question comes at every switch, as the design has it: the answer is kept where the
+    // skip mark was, and a Yes (6) is no skip mark. Only the settings at start set the mark.
     if (!SkipInterfaceQuestion.isSet()) {
         const int answer = ask(armenianInterfaceQuestion());
         SkipInterfaceQuestion = answer;
         if (answer == kAnswerYes) return;
-        // The captions can't be read: show the note on the Armenian font from the help text.
+        // The captions can't be read: the note on the Armenian font from the help text takes
+        // the result box, in place of the translation (the source box still holds the text).
         if (const auto note = fontNoteFromHelp(dataFolder_ / kHelpFileName)) view_.setText4(*note);
         if (engine_) engine_->OutputText.clear();
     }
@@ -327,8 +331,63 @@ unsigned char MainForm::typedKey(unsigned char key) const {
 
 void MainForm::Text3_Change(const FontText& text) {
     if (!engine_) return;
+    endUnfinishedRun();
     engine_->Text3_Change(text);
+    runEnded();
     view_.stateChanged();
+}
+
+// A run that waits on the panel, or waits for its next slice, is given up when the text it
+// translates has changed: its word and sentence state must not leak into the new run.
+void MainForm::endUnfinishedRun() {
+    Engine& e = *engine_;
+    if (e.state != RunState::Waiting && e.state != RunState::Suspended) return;
+    if (e.state == RunState::Suspended) ++runCounts_.dropped;
+    e.yieldBetweenWords = nullptr;
+    if (e.state == RunState::Waiting) closePanel();
+    skippedWord_.clear();
+    e.resetWord();
+    e.resetSentence();
+    e.resetRun();
+    e.state = RunState::Idle;
+}
+
+void MainForm::runEnded() {
+    if (!engine_ || engine_->state != RunState::Idle) return;
+    // The design minimises the window for a long unattended run; at its end the window comes
+    // back, since a desktop without a task bar would otherwise seem to have lost it.
+    if (minimisedForRun_) {
+        minimisedForRun_ = false;
+        view_.restoreAfterUnattendedRun();
+    }
+}
+
+bool MainForm::startInstantRun(const FontText& text) {
+    if (!engine_) return false;
+    endUnfinishedRun();
+    ++runCounts_.started;
+    sliceStart_ = now();
+    engine_->yieldBetweenWords = [this] { return now() - sliceStart_ >= kInstantSlice; };
+    engine_->Text3_Change(text);
+    return instantSliceEnded();
+}
+
+bool MainForm::continueInstantRun() {
+    if (!instantRunPending()) return false;
+    sliceStart_ = now();
+    engine_->ankap0_DblClick();
+    return instantSliceEnded();
+}
+
+bool MainForm::instantSliceEnded() {
+    runCounts_.longestSlice = std::max(runCounts_.longestSlice,
+                                       std::chrono::duration_cast<std::chrono::nanoseconds>(now() - sliceStart_));
+    if (engine_->state == RunState::Suspended) return true;
+    engine_->yieldBetweenWords = nullptr;
+    ++runCounts_.finished;
+    runEnded();
+    view_.stateChanged();
+    return false;
 }
 
 void MainForm::Replacet_Click(const FontText& word) {
@@ -343,7 +402,15 @@ void MainForm::Replacet_Click(const FontText& word) {
 
 void MainForm::Command2_Click() {
     if (panel_.Text1.empty()) return;
-    if (panel_.Command2 == kSaveCaptionEnglish || panel_.Command2 == kSaveCaptionArmenian) Text2_DblClick();
+    if (panel_.Command2 != kSaveCaptionEnglish && panel_.Command2 != kSaveCaptionArmenian) return;
+    // The design's save simply does nothing without a translation; the user is told why.
+    const Direction direction =
+        engine_ && engine_->Check1 == 1 ? Direction::ArmenianToEnglish : Direction::EnglishToArmenian;
+    if (panel_.visible && trimBlanks(normalisePanelGloss(panel_.Text2, direction)).empty()) {
+        notify(emptyTranslationNotice());
+        return;
+    }
+    Text2_DblClick();
 }
 
 void MainForm::closePanel() {
@@ -363,24 +430,47 @@ void MainForm::Text2_DblClick() {
     const FontText gloss = panel_.Text2.substr(0, kGlossWidth);
     insertWordPair(store_, direction, key, gloss, panel_.Text6.substr(0, kTagWidth));
 
-    // A phrase, an alternative or a part of a word gets no reverse entry, and isn't written into
-    // the translation here either.
-    if (trimBlanks(gloss).find_first_of(" /()-") == std::string_view::npos) {
-        e.OutputText += " ";
-        e.OutputText += panel_.Text2;
-        setResultText(e.OutputText);
-    }
+    // The translation is not written into the output here. The resumed run reads the paused
+    // word again (ScanPos untouched, CurrentWord the word of Text1), finds the record just
+    // stored and writes its gloss with the endings and the delimiter still pending; that is
+    // also how a phrase or an alternative, which gets no reverse entry, reaches the output.
+    // Writing Text2 here too gave the word twice.
 
     closePanel();
     view_.stateChanged();
     e.AnswerCode = kAnswerNo;
     e.resumeRun();
+    runEnded();
+    view_.stateChanged();
+}
+
+void MainForm::skipWord() {
+    if (!panel_.visible || !engine_ || engine_->state != RunState::Waiting) return;
+    if (panel_.Command2 != kSaveCaptionEnglish && panel_.Command2 != kSaveCaptionArmenian) return;
+    Engine& e = *engine_;
+    // The resumed run reads the word again as it was typed and meets the question about it
+    // once more; that question is answered No here, so that the word takes the No path: it
+    // joins the terms of the run and stays in the text untranslated.
+    skippedWord_ = e.RawWord;
+    e.CurrentWord = e.RawWord;
+    if (e.UnknownCount > 0) --e.UnknownCount;  // counted again when it is read again
+    closePanel();
+    view_.stateChanged();
+    e.resumeRun();
+    skippedWord_.clear();
+    runEnded();
     view_.stateChanged();
 }
 
 // ---- Host ---------------------------------------------------------------------------------
 
-int MainForm::ask(const Question& question) { return view_.ask(question, language()); }
+int MainForm::ask(const Question& question) {
+    if (question.kind == QuestionKind::AddUnknownWord && !skippedWord_.empty() && question.subject == skippedWord_) {
+        skippedWord_.clear();
+        return kAnswerNo;
+    }
+    return view_.ask(question, language());
+}
 
 void MainForm::notify(const Notice& notice) { view_.notify(notice, language()); }
 
@@ -433,7 +523,10 @@ void MainForm::openAddWordPanel(const FontText& word) {
     Replacet_Click(word);
 }
 
-void MainForm::minimiseWindow() { view_.minimise(); }
+void MainForm::minimiseWindow() {
+    minimisedForRun_ = true;
+    view_.minimise();
+}
 
 // The converter window has a window of its own; the main window has nothing to open or hide.
 void MainForm::openConverter() {}

@@ -59,6 +59,9 @@ public:
     virtual void stateChanged() = 0;
     virtual void minimise() = 0;
     virtual void setBusy(bool busy) = 0;
+    // A run that went on unattended, minimised, has ended: bring the window back and ask the
+    // desktop to draw the user's attention to it.
+    virtual void restoreAfterUnattendedRun() {}
 };
 
 // The state of one item of the window: a menu item, or a control with a caption.
@@ -105,6 +108,19 @@ enum class StartResult { Started, AlreadyRunning };
 // character would cost a long run more than the run itself.
 inline constexpr std::chrono::milliseconds kProgressInterval{40};
 
+// A run of instant translation holds the interface thread for at most this long at a time and
+// then lets the window take its events, well inside the 100 ms a key stroke may take.
+inline constexpr std::chrono::milliseconds kInstantSlice{30};
+
+// Runs of typed changes: how many began, how many a newer change dropped before their end,
+// how many ended.
+struct RunCounts {
+    int started = 0;
+    int dropped = 0;
+    int finished = 0;
+    std::chrono::nanoseconds longestSlice{0};  // the longest the interface thread was held
+};
+
 inline constexpr std::string_view kTempEnglishList = "tmpa.txt";
 inline constexpr std::string_view kTempArmenianList = "tmpe.txt";
 
@@ -143,8 +159,16 @@ public:
     void Text2_Click();
 
     // ---- The run and the add-word panel -------------------------------------------------
-    // Text3 changed (typed, pasted, or set by a command): a run.
+    // Text3 changed (typed, pasted, or set by a command): a run. A run still waiting on the
+    // panel, or cut into slices, is ended first.
     void Text3_Change(const FontText& text);
+    // A typed change under instant translation: the run walks the text in slices of
+    // kInstantSlice and leaves between them; true while it has more to do.
+    bool startInstantRun(const FontText& text);
+    // The next slice of that run; true while it has more to do.
+    bool continueInstantRun();
+    bool instantRunPending() const { return engine_ && engine_->state == RunState::Suspended; }
+    const RunCounts& runCounts() const { return runCounts_; }
     // Opens the panel for an unknown word: the word in Text1, the button "Save"/"Հիշել".
     void Replacet_Click(const FontText& word);
     // The panel's button. With the caption "Save" or "Հիշել" and a word in Text1 it stores the
@@ -152,6 +176,9 @@ public:
     void Command2_Click();
     // Adds Text1 = Text2 (tag Text6) to both dictionaries and resumes the paused run.
     void Text2_DblClick();
+    // Escape or the Skip button: the word is left untranslated, as a No to the question would
+    // leave it, and the paused run goes on.
+    void skipWord();
 
     // ---- Phonetic typing -----------------------------------------------------------------
     // The code a key press in one of the main window's boxes becomes.
@@ -217,6 +244,9 @@ private:
     void applyCaptions(Language language);
     void applySettingsRecord(int record, std::string_view value);
     void closePanel();
+    void endUnfinishedRun();
+    void runEnded();
+    bool instantSliceEnded();
 
     Form1View& view_;
     std::map<std::string, ItemState, std::less<>> items_;
@@ -230,6 +260,10 @@ private:
     Text4Font font_;
     std::string fontStyle_;
     WordPanel panel_;
+    bool minimisedForRun_ = false;  // the window was minimised for an unattended run
+    FontText skippedWord_;          // the next question about adding this word is answered No
+    RunCounts runCounts_;
+    Clock::time_point sliceStart_;
 
     std::filesystem::path dataFolder_;
     InstanceLock lock_;

@@ -10,6 +10,8 @@
 
 namespace vorlexa::cli {
 
+using namespace vorlexa::literals;
+
 namespace {
 
 struct DictArgs {
@@ -44,14 +46,31 @@ int column(const DictArgs& a) {
     return kExitOk;
 }
 
+// The key as the scanner builds it from a typed word: capitals of the source language in small
+// letters, and "եւ" written as the ligature.
+FontText scannerKey(std::string_view word, Direction d) {
+    if (d == Direction::ArmenianToEnglish) {
+        FontText key = foldArmenianCase(word);
+        const std::string_view yev = "եւ"_ft;
+        for (auto at = key.find(yev); at != FontText::npos; at = key.find(yev, at + 1))
+            key.replace(at, yev.size(), 1, static_cast<char>(font::kLigature));
+        return key;
+    }
+    FontText key(word);
+    for (char& c : key)
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c + ('a' - 'A'));
+    return key;
+}
+
 int lookup(const GlobalOptions& options, const DictArgs& a) {
-    const auto word = argumentToFont(a.word, "WORD");
+    const auto typed = argumentToFont(a.word, "WORD");
     const auto folder = openDataFolder(options);
-    if (!word || !folder) return kExitFailure;
+    if (!typed || !folder) return kExitFailure;
     DictionaryStore store;
     store.open(*folder);
-    const Direction d = directionOf(*word);
-    const auto rec = d == Direction::EnglishToArmenian ? store.findEnglish(*word) : store.findArmenian(*word);
+    const Direction d = directionOf(*typed);
+    const FontText word = scannerKey(*typed, d);
+    const auto rec = d == Direction::EnglishToArmenian ? store.findEnglish(word) : store.findArmenian(word);
     if (!rec) {
         printError("\"" + a.word + "\" not found");
         return kExitFailure;

@@ -5,6 +5,7 @@
 #include "cli/cli_common.h"
 #include "cli/dict_commands.h"
 #include "cli/translate_commands.h"
+#include "cli/usage_errors.h"
 
 #ifndef VORLEXA_VERSION
 #define VORLEXA_VERSION "0.0.0"
@@ -30,8 +31,7 @@ int main(int argc, char** argv) {
     } catch (const CLI::Success& e) {
         return app.exit(e);
     } catch (const CLI::ParseError& e) {
-        app.exit(e);
-        return kExitUsage;
+        return reportUsageError(app, e);
     }
     return result;
 }

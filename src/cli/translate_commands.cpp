@@ -88,6 +88,7 @@ public:
             ttyIn_ = std::make_unique<std::ifstream>("/dev/tty");
             ttyOut_ = std::make_unique<std::ofstream>("/dev/tty");
             if (*ttyIn_ && *ttyOut_) terminal_ = std::make_unique<TerminalHost>(*ttyIn_, *ttyOut_);
+            else printError("--ask: no terminal to ask on; unknown words are left untranslated");
         }
         host_ = terminal_ ? static_cast<CliHost*>(terminal_.get()) : &quietHost_;
         engine_ = std::make_unique<Engine>(store_, folder, *host_);

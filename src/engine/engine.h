@@ -17,6 +17,7 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -33,6 +34,7 @@ enum class RunState {
     Idle,     // no run, or the last one ended
     Running,  // the scanner walks the text
     Waiting,  // the scanner has left on an unknown word; the add-word panel stands open
+    Suspended,  // the scanner has left between two words for the window's sake; ankap0_DblClick goes on
 };
 
 // How a trigger hands control back to the scanner.
@@ -69,6 +71,9 @@ public:
     void Text3_Change(const FontText& text);
     // The scanner loop; also continues a run that stopped on an unknown word.
     void ankap0_DblClick();
+    // Asked between two words when set: true makes the scanner leave with the run Suspended,
+    // so that a window can take its events and call ankap0_DblClick again to go on.
+    std::function<bool()> yieldBetweenWords;
     // Continues a waiting run with the answer reset, ScanPos untouched.
     void resumeRun();
     // The save path of the add-word panel: stores the pair (and its reverse entry) in the

@@ -88,6 +88,10 @@ void Engine::ankap0_DblClick() {
             state = RunState::Waiting;
             return;
         }
+        if (yieldBetweenWords && CurrentWord.empty() && yieldBetweenWords()) {
+            state = RunState::Suspended;
+            return;
+        }
     }
     TransEndProcedure();
     state = RunState::Idle;

@@ -19,10 +19,13 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QShortcut>
+#include <QTimer>
 #include <QTextCursor>
 #include <QVBoxLayout>
 #include <fstream>
 
+#include "app/add_word_panel.h"
 #include "shell/qt_text.h"
 #include "text/converters.h"
 
@@ -37,6 +40,9 @@ constexpr int kTagBoxWidth = 70;    // room for the five characters of a tag
 constexpr int kListHeight = 80;     // a few suggestions at a time
 constexpr int kPictureWidth = 34;   // the input-language pictures: two letters
 constexpr int kPictureHeight = 22;
+// With instant translation off a run may ask questions: typed changes wait for this pause in
+// typing, so that the next key strokes go into the text and not into a question box.
+constexpr std::chrono::milliseconds kTypingPause{400};
 
 bool isDesignFace(const QString& name) {
     const QString n = name.trimmed().toLower();
@@ -160,6 +166,10 @@ void Form1::buildControls() {
     Text6->setFixedWidth(kTagBoxWidth);
     Command2 = new QPushButton(panel_);
     Command2->setObjectName(QStringLiteral("Command2"));
+    // The panel of the design can only be left by saving a word; Skip (and Escape) leaves the
+    // word untranslated instead, as a No to the question would.
+    SkipWord = new QPushButton(panel_);
+    SkipWord->setObjectName(QStringLiteral("SkipWord"));
     List1 = new QListWidget(panel_);
     List1->setObjectName(QStringLiteral("List1"));
     List1->setFixedHeight(kListHeight);
@@ -169,6 +179,7 @@ void Form1::buildControls() {
     row->addWidget(Text2, 2);
     row->addWidget(Text6);
     row->addWidget(Command2);
+    row->addWidget(SkipWord);
     row->addWidget(List1, 2);
     layout->addWidget(panel_);
 
@@ -180,7 +191,20 @@ void Form1::buildControls() {
     for (QWidget* box : std::initializer_list<QWidget*>{Text1, Text2, Text3, Text4, Text6}) box->installEventFilter(this);
 
     // Any change of the source box is a run, typed or set by a command.
-    connect(Text3, &QPlainTextEdit::textChanged, this, [this] { logic_->Text3_Change(text3()); });
+    typingPause_ = new QTimer(this);
+    typingPause_->setSingleShot(true);
+    typingPause_->setInterval(kTypingPause);
+    connect(typingPause_, &QTimer::timeout, this, [this] { logic_->Text3_Change(text3()); });
+    nextSlice_ = new QTimer(this);
+    nextSlice_->setSingleShot(true);
+    nextSlice_->setInterval(0);
+    connect(nextSlice_, &QTimer::timeout, this, [this] {
+        if (logic_->continueInstantRun()) nextSlice_->start();
+    });
+    connect(Text3, &QPlainTextEdit::textChanged, this, [this] { text3Changed(); });
+    skipKey_ = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(skipKey_, &QShortcut::activated, this, [this] { skipWord(); });
+    connect(SkipWord, &QPushButton::clicked, this, [this] { skipWord(); });
     for (QLineEdit* box : {Text1, Text2, Text6})
         connect(box, &QLineEdit::textChanged, this, [this] { panelEdited(); });
     connect(Command2, &QPushButton::clicked, this, [this] {
@@ -228,7 +252,32 @@ void Form1::registerCommand(const QString& item, std::function<void()> command) 
 
 bool Form1::hasCommand(const QString& item) const { return commands_.count(item) > 0; }
 
+void Form1::text3Changed() {
+    const bool typed = typing_;
+    if (!typed) {
+        // A paste or a change made by code runs at once.
+        typingPause_->stop();
+        nextSlice_->stop();
+        logic_->Text3_Change(text3());
+        return;
+    }
+    if (logic_->checked("ITR")) {
+        // Every key stroke is a run; a long one goes in slices and the next key stroke drops it.
+        typingPause_->stop();
+        if (logic_->startInstantRun(text3())) nextSlice_->start();
+        return;
+    }
+    typingPause_->start();
+}
+
+void Form1::skipWord() {
+    if (!logic_->panel().visible) return;
+    logic_->skipWord();
+    stateChanged();
+}
+
 void Form1::runCommand(const QString& item) {
+    typing_ = false;
     const auto it = commands_.find(item);
     if (it != commands_.end()) it->second();
     stateChanged();
@@ -257,7 +306,10 @@ void Form1::notify(const Notice& notice, app::Language language) {
 
 FontText Form1::text3() const { return fontText(Text3->toPlainText()); }
 
-void Form1::setText3(const FontText& text) { Text3->setPlainText(boxText(text)); }
+void Form1::setText3(const FontText& text) {
+    typing_ = false;
+    Text3->setPlainText(boxText(text));
+}
 
 FontText Form1::text4() const { return fontText(Text4->toPlainText()); }
 
@@ -336,6 +388,16 @@ void Form1::stateChanged() {
     put(Text6, p.Text6);
     Command2->setText(captionText(p.Command2));
     Command2->setVisible(p.visible);
+    const app::Language language = f.language();
+    const bool addingWord = p.visible && logic_->engine() && logic_->engine()->state == RunState::Waiting &&
+                            !logic_->engine()->SpellMode.isSet();
+    // The hints speak of adding a word; the panel's other uses leave the boxes without them.
+    Text1->setPlaceholderText(addingWord ? captionText(app::panelWordHint(language)) : QString());
+    Text2->setPlaceholderText(addingWord ? captionText(app::panelTranslationHint(language)) : QString());
+    Text6->setPlaceholderText(addingWord ? captionText(app::panelTagHint(language)) : QString());
+    SkipWord->setText(captionText(app::skipCaption(language)));
+    SkipWord->setVisible(addingWord);
+    skipKey_->setEnabled(addingWord);
     // The list is refilled only when its items changed, so that a chosen item stays chosen.
     bool sameList = List1->count() == static_cast<int>(p.List1.size());
     for (int i = 0; sameList && i < List1->count(); ++i)
@@ -349,6 +411,15 @@ void Form1::stateChanged() {
 }
 
 void Form1::minimise() { showMinimized(); }
+
+void Form1::restoreAfterUnattendedRun() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+    ++attentionRequests_;
+    QApplication::alert(this);
+}
 
 void Form1::setBusy(bool busy) {
     if (busy && !QApplication::overrideCursor()) QApplication::setOverrideCursor(Qt::WaitCursor);
@@ -401,9 +472,17 @@ bool Form1::eventFilter(QObject* watched, QEvent* event) {
             }
             break;
         case QEvent::KeyPress:
+            if (watched == Text3) {
+                const auto* key = static_cast<QKeyEvent*>(event);
+                typing_ = !(key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+            }
             if (box && watched != Text6) return handleKey(watched, static_cast<QKeyEvent*>(event));
             break;
+        case QEvent::KeyRelease:
+            if (watched == Text3) typing_ = false;
+            break;
         case QEvent::MouseButtonPress:
+            typing_ = false;
             if (watched == Picture1 || watched == Picture2) {
                 logic_->TA_Click();
                 return true;

@@ -23,6 +23,8 @@ class QMenu;
 class QPlainTextEdit;
 class QProgressBar;
 class QPushButton;
+class QShortcut;
+class QTimer;
 class QWidget;
 
 namespace vorlexa::shell {
@@ -82,6 +84,10 @@ public:
     void stateChanged() override;
     void minimise() override;
     void setBusy(bool busy) override;
+    void restoreAfterUnattendedRun() override;
+
+    // Times the window asked the desktop for the user's attention.
+    int attentionRequests() const { return attentionRequests_; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -94,6 +100,8 @@ private:
     bool saveAsUtf16();
     bool handleKey(QObject* box, QKeyEvent* key);
     void panelEdited();
+    void text3Changed();
+    void skipWord();
 
     std::unique_ptr<app::MainForm> logic_;
     std::unique_ptr<MessageBoxPrompter> messageBoxes_;
@@ -103,6 +111,11 @@ private:
     std::map<QString, std::function<void()>> commands_;
     bool syncing_ = false;  // the window is being set from the state: no edits to report
     bool closing_ = false;
+    bool typing_ = false;  // a key stroke is going into Text3
+    int attentionRequests_ = 0;
+    QTimer* typingPause_ = nullptr;  // a typed change runs when typing pauses
+    QTimer* nextSlice_ = nullptr;    // the next slice of an instant translation
+    QShortcut* skipKey_ = nullptr;
 
     QPlainTextEdit* Text3 = nullptr;
     QPlainTextEdit* Text4 = nullptr;
@@ -116,6 +129,7 @@ private:
     QLineEdit* Text6 = nullptr;
     QListWidget* List1 = nullptr;
     QPushButton* Command2 = nullptr;
+    QPushButton* SkipWord = nullptr;
 };
 
 // The font of a box from the design's description of it.

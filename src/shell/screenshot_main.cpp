@@ -13,10 +13,16 @@
 
 namespace {
 
-class AnswerNo : public vorlexa::shell::Prompter {
+// Answers No, or Yes with --add-word, so that the run stops at the first unknown word with the
+// add-word panel open.
+class Answer : public vorlexa::shell::Prompter {
 public:
-    int ask(QWidget*, const QString&, const QString&, vorlexa::Buttons) override { return vorlexa::kAnswerNo; }
+    explicit Answer(int answer) : answer_(answer) {}
+    int ask(QWidget*, const QString&, const QString&, vorlexa::Buttons) override { return answer_; }
     void notify(QWidget*, const QString&, const QString&) override {}
+
+private:
+    int answer_;
 };
 
 constexpr int kSettleMilliseconds = 700;  // the window is mapped and drawn by then
@@ -32,15 +38,17 @@ int main(int argc, char** argv) {
     const QCommandLineOption output(QStringLiteral("output"), QStringLiteral("PNG file to write."), QStringLiteral("FILE"));
     const QCommandLineOption text(QStringLiteral("text"), QStringLiteral("Text typed into the source box."),
                                   QStringLiteral("TEXT"));
-    parser.addOptions({dataDir, output, text});
+    const QCommandLineOption addWord(QStringLiteral("add-word"),
+                                     QStringLiteral("Stop at the first unknown word with the add-word panel open."));
+    parser.addOptions({dataDir, output, text, addWord});
     parser.process(application);
     if (!parser.isSet(dataDir) || !parser.isSet(output)) {
         parser.showHelp(2);
     }
 
-    AnswerNo no;
+    Answer answer(parser.isSet(addWord) ? vorlexa::kAnswerYes : vorlexa::kAnswerNo);
     vorlexa::shell::Form1 window;
-    window.setPrompter(&no);
+    window.setPrompter(&answer);
     if (window.start(parser.value(dataDir).toStdString(), vorlexa::shippedDataFolder()) !=
         vorlexa::app::StartResult::Started)
         return 1;

@@ -4,9 +4,11 @@
 
 #include <deque>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "app/add_word_panel.h"
 #include "app/app_fixture.h"
 #include "app/settings_file.h"
 #include "support/temp_folder.h"
@@ -52,8 +54,16 @@ public:
     void selectText4(TextSelection s) override { selection = s; }
     void progressChanged(int percent) override { drawnProgress.push_back(percent); }
     void stateChanged() override {}
-    void minimise() override { minimised = true; }
+    void minimise() override {
+        minimised = true;
+        events.push_back("minimise");
+    }
     void setBusy(bool) override {}
+    void restoreAfterUnattendedRun() override {
+        minimised = false;
+        events.push_back("restore");
+    }
+    std::vector<std::string> events;
 
     std::vector<QuestionKind> kinds() const {
         std::vector<QuestionKind> k;
@@ -592,4 +602,168 @@ TEST(MainForm, TheInputLanguageFollowsTheBoxOfTheSearch) {
     f.form->engine()->SpellMode.clear();
     f.form->Text2_Click();
     EXPECT_FALSE(f.form->checked("TA"));
+}
+
+// ---- The run as a user meets it ------------------------------------------------------------
+
+namespace {
+
+int count(const std::string& text, const std::string& part) {
+    int n = 0;
+    for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + part.size())) ++n;
+    return n;
+}
+
+std::string replaced(std::string text, const std::string& from, const std::string& to) {
+    for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
+        text.replace(at, from.size(), to);
+    return text;
+}
+
+// A text of many lines of known words, with nothing to ask about.
+std::string longText(int lines) {
+    std::string text;
+    for (int i = 0; i < lines; ++i) text += "The big house is red.\r\n";
+    return text;
+}
+
+}  // namespace
+
+TEST(MainForm, AWordAddedFromThePanelIsWrittenOnceWithItsEndings) {
+    // "The house is big." and "The zorbl is big." differ only in the noun, once zorbl is a noun
+    // of the dictionary: the saved word gets the article ending and the copula follows, as the
+    // house does, and it is written once.
+    Fixture known;
+    ASSERT_EQ(known.start(), StartResult::Started);
+    known.type("The house is big.");
+    const std::string house = known.result();
+    ASSERT_EQ(count(house, "ուն"), 1) << house;
+
+    Fixture f;
+    ASSERT_EQ(f.start(), StartResult::Started);
+    f.view.answers = {kAnswerYes, kAnswerYes};
+    f.type("The zorbl is big.");
+    ASSERT_TRUE(f.form->panel().visible);
+    f.form->panel().Text2 = fromUtf8("զարմիկ");
+    f.form->panel().Text6 = "n";
+    f.form->Command2_Click();
+    EXPECT_EQ(f.form->engine()->state, RunState::Idle);
+    EXPECT_EQ(count(f.result(), "արմիկ"), 1) << f.result();
+    EXPECT_EQ(f.result(), replaced(replaced(house, "Տուն", "Զարմիկ"), "տուն", "զարմիկ"));
+}
+
+TEST(MainForm, SkipLeavesTheWordAsANoWouldAndTheRunGoesOnWithoutAskingAgain) {
+    Fixture no;
+    ASSERT_EQ(no.start(), StartResult::Started);
+    no.view.answers = {kAnswerYes, kAnswerNo};  // stop at unknown words; not this one
+    no.type("big Zorbl house Zorbl");
+    ASSERT_FALSE(no.form->panel().visible);
+    const std::string expected = no.result();
+
+    Fixture f;
+    ASSERT_EQ(f.start(), StartResult::Started);
+    f.view.answers = {kAnswerYes, kAnswerYes};  // stop at unknown words; add this one
+    f.type("big Zorbl house Zorbl");
+    ASSERT_TRUE(f.form->panel().visible);
+    ASSERT_EQ(f.view.questions.size(), 2u);
+
+    f.form->skipWord();
+    EXPECT_FALSE(f.form->panel().visible);
+    EXPECT_EQ(f.form->engine()->state, RunState::Idle);
+    // No further question reaches the user: the word was reported, and its second
+    // occurrence is written as it stands.
+    EXPECT_EQ(f.view.questions.size(), 2u);
+    EXPECT_EQ(f.result(), expected);
+    EXPECT_EQ(count(toUtf8(foldArmenianCase(fromUtf8(f.result()))), "orbl"), 2) << f.result();
+    EXPECT_NE(f.result().find("տուն"), std::string::npos) << f.result();
+    EXPECT_FALSE(f.form->store().findEnglish("zorbl"));
+}
+
+TEST(MainForm, SaveWithoutATranslationSaysWhyAndKeepsWaiting) {
+    Fixture f;
+    ASSERT_EQ(f.start(), StartResult::Started);
+    f.view.answers = {kAnswerYes, kAnswerYes};
+    f.type("zorbl");
+    f.form->panel().Text2 = "   ";
+    f.form->Command2_Click();
+    ASSERT_EQ(f.view.notices.size(), 1u);
+    EXPECT_EQ(f.view.notices[0].text.english, emptyTranslationNotice().text.english);
+    EXPECT_TRUE(f.form->panel().visible);
+    EXPECT_EQ(f.form->engine()->state, RunState::Waiting);
+    EXPECT_FALSE(f.form->store().findEnglish("zorbl"));
+}
+
+TEST(MainForm, ANewTextWhileThePanelWaitsEndsThatRunAndTranslatesTheNewOneAfresh) {
+    Fixture fresh;
+    ASSERT_EQ(fresh.start(), StartResult::Started);
+    fresh.type("big house");
+    const std::string expected = fresh.result();
+
+    Fixture f;
+    ASSERT_EQ(f.start(), StartResult::Started);
+    f.view.answers = {kAnswerYes, kAnswerYes};
+    f.type("The house is zorbl");  // waits with an article and a copula pending
+    ASSERT_TRUE(f.form->panel().visible);
+    f.type("big house");
+    EXPECT_FALSE(f.form->panel().visible);
+    EXPECT_EQ(f.form->engine()->state, RunState::Idle);
+    EXPECT_EQ(f.result(), expected);
+}
+
+TEST(MainForm, AWindowMinimisedForAnUnattendedRunComesBackWhenTheRunEnds) {
+    Fixture f;
+    ASSERT_EQ(f.start(), StartResult::Started);
+    f.view.answers = {kAnswerNo};  // leave unknown words: the long text runs unattended
+    f.type("zorbl " + longText(200));
+    EXPECT_EQ(f.view.events, (std::vector<std::string>{"minimise", "restore"}));
+    EXPECT_FALSE(f.view.minimised);
+
+    // A short text is never minimised, and nothing is restored.
+    f.view.events.clear();
+    f.type("zorbl big");
+    EXPECT_TRUE(f.view.events.empty());
+}
+
+TEST(MainForm, TheInterfaceQuestionComesAtEverySwitchToArmenian) {
+    Fixture f;
+    ASSERT_EQ(f.start(), StartResult::Started);
+    f.view.answers = {kAnswerYes, kAnswerYes};
+    f.form->AMN_Click();
+    f.form->Engo_Click();
+    f.form->AMN_Click();
+    EXPECT_EQ(f.view.questions.size(), 2u);
+}
+
+TEST(MainForm, AnInstantRunOfALongTextGoesInSlicesAndANewerKeyStrokeDropsIt) {
+    Fixture sync;
+    ASSERT_EQ(sync.start(), StartResult::Started);
+    sync.form->ITR_Click();
+    const std::string text = longText(3000);
+    sync.type(text + "x");
+    const std::string expected = sync.result();
+
+    Fixture f;
+    ASSERT_EQ(f.start(), StartResult::Started);
+    f.form->ITR_Click();
+    // The test's clock moves one millisecond each time it is read, so a slice is a fixed
+    // amount of work and the time it holds the interface is counted, not measured.
+    auto ticks = std::make_shared<std::int64_t>(0);
+    f.form->now = [ticks] { return MainForm::Clock::time_point(std::chrono::milliseconds(++*ticks)); };
+
+    // Three key strokes in a row: each starts a run and leaves after its first slice; the two
+    // older runs are dropped when the next key stroke comes.
+    EXPECT_TRUE(f.form->startInstantRun(fromUtf8(text)));
+    EXPECT_TRUE(f.form->startInstantRun(fromUtf8(text + "x")));
+    EXPECT_TRUE(f.form->startInstantRun(fromUtf8(text + "x")));
+    EXPECT_EQ(f.form->runCounts().started, 3);
+    EXPECT_EQ(f.form->runCounts().dropped, 2);
+    EXPECT_EQ(f.form->runCounts().finished, 0);
+
+    int slices = 1;
+    while (f.form->continueInstantRun()) ++slices;
+    EXPECT_GT(slices, 2);
+    EXPECT_EQ(f.form->runCounts().finished, 1);
+    EXPECT_FALSE(f.form->instantRunPending());
+    EXPECT_LT(f.form->runCounts().longestSlice, std::chrono::milliseconds(100));
+    EXPECT_EQ(f.result(), expected);
 }

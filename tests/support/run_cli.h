@@ -22,9 +22,11 @@ inline std::string shellQuote(const std::string& s) {
     return q + "'";
 }
 
-// `args` is already quoted where needed; `input` is fed on standard input.
+// `args` is already quoted where needed; `input` is fed on standard input. `launcher`, when
+// given, runs the tool (for example `setsid -w`, which takes the controlling terminal away).
 inline CliResult runCli(const std::string& args, const std::string& input = "",
-                        const std::filesystem::path& scratch = std::filesystem::temp_directory_path()) {
+                        const std::filesystem::path& scratch = std::filesystem::temp_directory_path(),
+                        const std::string& launcher = "") {
     const auto in = scratch / "cli-stdin";
     const auto err = scratch / "cli-stderr";
     {
@@ -32,7 +34,7 @@ inline CliResult runCli(const std::string& args, const std::string& input = "",
         std::fwrite(input.data(), 1, input.size(), f);
         std::fclose(f);
     }
-    const std::string cmd = std::string(VORLEXA_CLI_PATH) + " " + args + " <" + shellQuote(in) +
+    const std::string cmd = launcher + (launcher.empty() ? "" : " ") + std::string(VORLEXA_CLI_PATH) + " " + args + " <" + shellQuote(in) +
                             " 2>" + shellQuote(err);
     CliResult r;
     FILE* pipe = popen(cmd.c_str(), "r");
