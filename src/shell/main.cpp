@@ -5,6 +5,7 @@
 
 #include "engine/data_folder.h"
 #include "shell/form1.h"
+#include "shell/form3.h"
 
 #ifndef VORLEXA_VERSION
 #define VORLEXA_VERSION "0.0.0"
@@ -32,6 +33,7 @@ int main(int argc, char** argv) {
     const std::filesystem::path folder = vorlexa::resolveDataFolder(fromCommandLine);
 
     vorlexa::shell::Form1 window;
+    vorlexa::shell::installTextTools(window);
     if (window.start(folder, vorlexa::shippedDataFolder()) == vorlexa::app::StartResult::AlreadyRunning) return 1;
     window.show();
     return QApplication::exec();
