@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QTextCursor>
@@ -13,6 +14,7 @@
 
 #include "shell/form1.h"
 #include "shell/qt_text.h"
+#include "text/converters.h"
 #include "text_tools/result_box_tools.h"
 
 namespace vorlexa::shell {
@@ -47,6 +49,28 @@ private:
     app::Form1View& view_;
 };
 
+// TextBox1 shows its text as the window's face shows it: font codes as the Armenian letters the
+// one-byte font draws for them. What it gives to the clipboard is the text itself, so a copy
+// after a paste is font text for a document in that font, and after Label1 it is Unicode.
+class ConverterBox : public QPlainTextEdit {
+public:
+    ConverterBox(const text_tools::ConverterForm& logic, QWidget* parent) : QPlainTextEdit(parent), logic_(logic) {}
+
+protected:
+    QMimeData* createMimeDataFromSelection() const override {
+        const QTextCursor cursor = textCursor();
+        const std::u16string& text = logic_.TextBox1;
+        const std::size_t from = std::min(static_cast<std::size_t>(cursor.selectionStart()), text.size());
+        const std::size_t to = std::min(static_cast<std::size_t>(cursor.selectionEnd()), text.size());
+        auto* data = new QMimeData;
+        data->setText(QString::fromStdU16String(text.substr(from, to - from)));
+        return data;
+    }
+
+private:
+    const text_tools::ConverterForm& logic_;
+};
+
 }  // namespace
 
 Form3::Form3(QWidget* parent) : QWidget(parent, Qt::Window) {
@@ -54,7 +78,7 @@ Form3::Form3(QWidget* parent) : QWidget(parent, Qt::Window) {
     setWindowTitle(captionText(text_tools::kConverterCaption));
 
     auto* layout = new QVBoxLayout(this);
-    TextBox1 = new QPlainTextEdit(this);
+    TextBox1 = new ConverterBox(logic_, this);
     TextBox1->setObjectName(QStringLiteral("TextBox1"));
     TextBox1->setFont(boxFont({}));
     layout->addWidget(TextBox1, 1);
@@ -66,6 +90,10 @@ Form3::Form3(QWidget* parent) : QWidget(parent, Qt::Window) {
     Label3 = new QLabel(tr("Close"), this);
     Label3->setObjectName(QStringLiteral("Label3"));
     CheckBox1 = new QCheckBox(tr("Convert only, don't translate"), this);
+    FaceLabel = new QLabel(this);
+    FaceLabel->setObjectName(QStringLiteral("FaceLabel"));
+    FaceLabel->setToolTip(tr("What a copy of the box gives: Arial Armenian, one byte per letter for documents "
+                             "in that font; sylfaen, Unicode"));
     CheckBox1->setObjectName(QStringLiteral("CheckBox1"));
     for (QLabel* label : {Label1, Label3}) {
         // Clickable labels: they look like links and take the keyboard focus too.
@@ -80,6 +108,8 @@ Form3::Form3(QWidget* parent) : QWidget(parent, Qt::Window) {
     row->addStretch(1);
     row->addWidget(CheckBox1);
     row->addStretch(1);
+    row->addWidget(FaceLabel);
+    row->addStretch(1);
     row->addWidget(Label3);
     layout->addLayout(row);
 
@@ -92,6 +122,8 @@ Form3::Form3(QWidget* parent) : QWidget(parent, Qt::Window) {
 
 void Form3::textChanged() {
     if (syncing_) return;
+    // The text as shown is the text edited; the conversion that follows gives the letters back
+    // their font codes.
     logic_.TextBox1 = TextBox1->toPlainText().toStdU16String();
     logic_.textbox1_change();
     sync();
@@ -99,7 +131,7 @@ void Form3::textChanged() {
 
 void Form3::sync() {
     syncing_ = true;
-    const QString text = QString::fromStdU16String(logic_.TextBox1);
+    const QString text = shownText();
     if (TextBox1->toPlainText() != text) {
         // The converters keep the length of the text, so the caret stays where the user left it.
         const int caret = TextBox1->textCursor().position();
@@ -110,9 +142,16 @@ void Form3::sync() {
     }
     const QFont face = boxFont({logic_.TextBox1Font});
     if (TextBox1->font() != face) TextBox1->setFont(face);
+    FaceLabel->setText(captionText(logic_.TextBox1Font));
     CheckBox1->setChecked(logic_.CheckBox1);
     syncing_ = false;
     if (!logic_.visible && isVisible()) hide();
+}
+
+QString Form3::shownText() const {
+    std::u16string shown = logic_.TextBox1;
+    if (logic_.TextBox1Font == text_tools::kFontTextFace) AnsciUnicodeConverter(shown);
+    return QString::fromStdU16String(shown);
 }
 
 void Form3::place() {

@@ -43,6 +43,7 @@ protected:
 
 private:
     void textChanged();
+    QString shownText() const;
     void place();
     void closeByUser();
 
@@ -53,6 +54,7 @@ private:
     QLabel* Label1 = nullptr;
     QLabel* Label3 = nullptr;
     QCheckBox* CheckBox1 = nullptr;
+    QLabel* FaceLabel = nullptr;  // the face of TextBox1, which tells what a copy gives
 };
 
 struct TextToolsHooks {

@@ -3,6 +3,8 @@
 // the transliteration and case commands on the selection of Text4.
 #include <QAction>
 #include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QScreen>
@@ -75,6 +77,12 @@ private:
     QPlainTextEdit* textBox1() { return child<QPlainTextEdit>(form3_, "TextBox1"); }
     QPlainTextEdit* text3() { return child<QPlainTextEdit>(window_.get(), "Text3"); }
     QPlainTextEdit* text4() { return child<QPlainTextEdit>(window_.get(), "Text4"); }
+    // What a copy of the whole of TextBox1 puts on the clipboard.
+    QString copyAll() {
+        textBox1()->selectAll();
+        textBox1()->copy();
+        return QGuiApplication::clipboard()->text();
+    }
     void trigger(const char* item) {
         QAction* a = child<QAction>(window_.get(), item);
         QVERIFY2(a->isEnabled(), item);
@@ -130,13 +138,33 @@ private slots:
         trigger("uta");
         textBox1()->setFocus();
         textBox1()->insertPlainText(u("տուն"));
-        // The box now holds the font codes of the letters, as a one-byte font document wants them.
-        const QChar codes[] = {QChar(0xEF), QChar(0xE1), QChar(0xF5), QChar(0xDD)};  // տ ո ւ ն
-        QCOMPARE(textBox1()->toPlainText(), QString(codes, 4));
+        // The box holds the font codes of the letters and shows them as the one-byte font draws
+        // them; a copy gives the codes, as a document in that font wants them.
+        QCOMPARE(textBox1()->toPlainText(), u("տուն"));
         QCOMPARE(QString::fromStdString(form3_->logic().TextBox1Font), QStringLiteral("Arial Armenian"));
+        QCOMPARE(child<QLabel>(form3_, "FaceLabel")->text(), QStringLiteral("Arial Armenian"));
+        const QChar codes[] = {QChar(0xEF), QChar(0xE1), QChar(0xF5), QChar(0xDD)};  // տ ո ւ ն
+        QCOMPARE(copyAll(), QString(codes, 4));
         QCOMPARE(text3()->toPlainText(), u("տուն"));
         QVERIFY2(text4()->toPlainText().contains(QStringLiteral("house")), qPrintable(text4()->toPlainText()));
         QVERIFY(window_->logic().checked("SUT"));
+    }
+
+    void pasteOfOldFontTextIsShownInArmenianAndTranslated() {
+        open();
+        trigger("uta");
+        const QChar codes[] = {QChar(0xD9), QChar(0xBB), QChar(0xCD)};  // մ ե ծ in the one-byte font
+        textBox1()->insertPlainText(QString(codes, 3));
+        QCOMPARE(textBox1()->toPlainText(), u("մեծ"));
+        QCOMPARE(text3()->toPlainText(), u("մեծ"));
+        QVERIFY2(text4()->toPlainText().contains(QStringLiteral("big")), qPrintable(text4()->toPlainText()));
+    }
+
+    void longRunGoingOnUnattendedHidesTheConverter() {
+        open();
+        trigger("uta");
+        window_->logic().hideConverter();
+        QVERIFY(!form3_->isVisible());
     }
 
     void checkBox1KeepsThePasteFromTheTranslator() {
@@ -144,7 +172,8 @@ private slots:
         trigger("uta");
         child<QCheckBox>(form3_, "CheckBox1")->setChecked(true);
         textBox1()->insertPlainText(u("տուն"));
-        QCOMPARE(textBox1()->toPlainText().size(), 4);
+        QCOMPARE(copyAll().size(), 4);
+        QCOMPARE(copyAll().at(0), QChar(0xEF));
         QVERIFY(text3()->toPlainText().isEmpty());
     }
 
@@ -155,6 +184,7 @@ private slots:
         textBox1()->insertPlainText(u("Բարև"));
         QTest::mouseClick(child<QLabel>(form3_, "Label1"), Qt::LeftButton);
         QCOMPARE(textBox1()->toPlainText(), u("Բարև"));
+        QCOMPARE(copyAll(), u("Բարև"));
         QCOMPARE(QString::fromStdString(form3_->logic().TextBox1Font), QStringLiteral("sylfaen"));
         QCOMPARE(form3_->logic().ConverterGuard, 0);
     }
