@@ -45,3 +45,10 @@ TEST(CaseChange, EmptyTextStaysEmpty) {
     for (int mode : {kArmenianUpper, kArmenianLower, kEnglishUpper, kEnglishLower})
         EXPECT_EQ(changeCase("", mode), "");
 }
+
+TEST(CaseChange, BytesThatAreNoLetterPassUnchanged) {
+    const FontText odd{static_cast<char>(0x80), static_cast<char>(0xA9), static_cast<char>(0xB1),
+                       static_cast<char>(0xFE), static_cast<char>(0xFF)};
+    for (int mode : {kArmenianUpper, kArmenianLower, kEnglishUpper, kEnglishLower})
+        EXPECT_EQ(changeCase(odd, mode), odd) << "mode " << mode;
+}

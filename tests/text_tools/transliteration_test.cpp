@@ -188,3 +188,11 @@ TEST(Transliteration, EmptyTextStaysEmpty) {
     EXPECT_EQ(engArm(""), "");
     EXPECT_EQ(latArm(""), "");
 }
+
+TEST(Transliteration, BytesThatAreNoLetterPassUnchanged) {
+    const FontText odd{static_cast<char>(0x80), static_cast<char>(0xA9), ' ', static_cast<char>(0xFE),
+                       static_cast<char>(0xAA)};
+    for (auto which : {Transliteration::ArmenianToLatin, Transliteration::EnglishToArmenian,
+                       Transliteration::LatinArmenianToArmenian})
+        EXPECT_EQ(text_tools::transliterate(odd, which), odd);
+}
