@@ -40,7 +40,8 @@ FontText randomText(bool armenian) {
 void transliterate(benchmark::State& state, text_tools::Transliteration which, bool armenian) {
     const FontText text = randomText(armenian);
     for (auto _ : state) benchmark::DoNotOptimize(text_tools::transliterate(text, which));
-    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) * static_cast<std::int64_t>(text.size()));
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
+                            static_cast<std::int64_t>(text.size()));
 }
 
 void BM_TranslitArmenianToLatin(benchmark::State& state) {
@@ -55,14 +56,17 @@ void BM_TranslitLatinArmenianToArmenian(benchmark::State& state) {
 
 void BM_ArmenianUpperCase(benchmark::State& state) {
     const FontText text = randomText(true);
-    for (auto _ : state) benchmark::DoNotOptimize(text_tools::changeCase(text, text_tools::kArmenianUpper));
-    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) * static_cast<std::int64_t>(text.size()));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(text_tools::changeCase(text, text_tools::kArmenianUpper));
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
+                            static_cast<std::int64_t>(text.size()));
 }
 
 void BM_Utf16FileBytes(benchmark::State& state) {
     const FontText text = randomText(true);
     for (auto _ : state) benchmark::DoNotOptimize(utf16FileBytes(text));
-    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) * static_cast<std::int64_t>(text.size()));
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations()) *
+                            static_cast<std::int64_t>(text.size()));
 }
 
 }  // namespace

@@ -49,11 +49,14 @@ std::optional<std::string> readAll(const std::string& file) {
     return bytes;
 }
 
-std::string nameOf(const std::string& file) { return file.empty() ? "standard input" : file; }
+std::string nameOf(const std::string& file) {
+    return file.empty() ? "standard input" : file;
+}
 
 // Runs `convert` over each input in turn and writes what it gives; stops at the first failure.
 int eachInput(const std::vector<std::string>& files,
-              const std::function<std::optional<std::string>(const std::string& name, const std::string& bytes)>& convert) {
+              const std::function<std::optional<std::string>(const std::string& name,
+                                                             const std::string& bytes)>& convert) {
     const std::vector<std::string> inputs = files.empty() ? std::vector<std::string>{""} : files;
     for (const std::string& file : inputs) {
         const auto bytes = readAll(file);
@@ -75,7 +78,8 @@ std::optional<FontText> fontOfUtf8(const std::string& name, const std::string& u
     Utf8Report report;
     FontText font = fromUtf8(utf8, &report);
     if (report.invalidSequences > 0) {
-        printError(name + ": not UTF-8 text (bad byte at offset " + std::to_string(report.firstInvalidOffset) + ")");
+        printError(name + ": not UTF-8 text (bad byte at offset " +
+                   std::to_string(report.firstInvalidOffset) + ")");
         return std::nullopt;
     }
     return font;
@@ -83,11 +87,13 @@ std::optional<FontText> fontOfUtf8(const std::string& name, const std::string& u
 
 // A font text rewritten by `change` and given back as UTF-8.
 int rewrite(const TextArgs& args, const std::function<FontText(std::string_view)>& change) {
-    return eachInput(args.files, [&](const std::string& name, const std::string& bytes) -> std::optional<std::string> {
-        const auto font = fontOfUtf8(name, bytes);
-        if (!font) return std::nullopt;
-        return toUtf8(change(*font));
-    });
+    return eachInput(
+        args.files,
+        [&](const std::string& name, const std::string& bytes) -> std::optional<std::string> {
+            const auto font = fontOfUtf8(name, bytes);
+            if (!font) return std::nullopt;
+            return toUtf8(change(*font));
+        });
 }
 
 int translit(const TextArgs& args) {
@@ -95,7 +101,8 @@ int translit(const TextArgs& args) {
     const Transliteration which = args.armLat   ? Transliteration::ArmenianToLatin
                                   : args.engArm ? Transliteration::EnglishToArmenian
                                                 : Transliteration::LatinArmenianToArmenian;
-    return rewrite(args, [which](std::string_view text) { return text_tools::transliterate(text, which); });
+    return rewrite(
+        args, [which](std::string_view text) { return text_tools::transliterate(text, which); });
 }
 
 int changeCase(const TextArgs& args) {
@@ -103,7 +110,8 @@ int changeCase(const TextArgs& args) {
                      : args.armLower ? text_tools::kArmenianLower
                      : args.engUpper ? text_tools::kEnglishUpper
                                      : text_tools::kEnglishLower;
-    return rewrite(args, [mode](std::string_view text) { return text_tools::changeCase(text, mode); });
+    return rewrite(args,
+                   [mode](std::string_view text) { return text_tools::changeCase(text, mode); });
 }
 
 // Font bytes to UTF-8. A byte that stands for no character (no letter, sign or escape of the
@@ -135,11 +143,15 @@ int convert(const TextArgs& args) {
     if (args.toUnicode) return eachInput(args.files, unicodeOfFontBytes);
     std::size_t escaped = 0;
     const int result =
-        eachInput(args.files, [&escaped](const std::string& name, const std::string& bytes) -> std::optional<std::string> {
-            auto font = fontOfUtf8(name, bytes);
-            if (font) escaped += static_cast<std::size_t>(std::count(font->begin(), font->end(), static_cast<char>(font::kEscape)));
-            return font;
-        });
+        eachInput(args.files,
+                  [&escaped](const std::string& name,
+                             const std::string& bytes) -> std::optional<std::string> {
+                      auto font = fontOfUtf8(name, bytes);
+                      if (font)
+                          escaped += static_cast<std::size_t>(std::count(
+                              font->begin(), font->end(), static_cast<char>(font::kEscape)));
+                      return font;
+                  });
     // The escapes come back with --to-unicode; software that reads the font alone can't show them.
     if (result == kExitOk && escaped > 0)
         printError("note: " + std::to_string(escaped) +
@@ -150,8 +162,10 @@ int convert(const TextArgs& args) {
 // Exactly one of `flags` must be given.
 void requireOne(CLI::App* command, const std::vector<std::pair<std::string, bool*>>& flags,
                 const std::vector<std::string>& help) {
-    CLI::Option_group* group = command->add_option_group("mode", "what the command does (one of them)");
-    for (std::size_t i = 0; i < flags.size(); ++i) group->add_flag(flags[i].first, *flags[i].second, help[i]);
+    CLI::Option_group* group =
+        command->add_option_group("mode", "what the command does (one of them)");
+    for (std::size_t i = 0; i < flags.size(); ++i)
+        group->add_flag(flags[i].first, *flags[i].second, help[i]);
     group->require_option(1);
 }
 
@@ -160,24 +174,30 @@ void requireOne(CLI::App* command, const std::vector<std::pair<std::string, bool
 void addTextCommands(CLI::App& app, int& result) {
     auto args = std::make_shared<TextArgs>();
 
-    CLI::App* tr = app.add_subcommand("translit", "Write a UTF-8 text in the other script, letter by letter");
+    CLI::App* tr =
+        app.add_subcommand("translit", "Write a UTF-8 text in the other script, letter by letter");
     tr->add_option("FILE", args->files, "text files (default: standard input)");
-    requireOne(tr, {{"--arm-lat", &args->armLat}, {"--eng-arm", &args->engArm}, {"--lat-arm", &args->latArm}},
-               {"Armenian in Latin letters", "an English text in Armenian letters, by its sound",
-                "Armenian typed in Latin letters back in Armenian letters"});
+    requireOne(
+        tr,
+        {{"--arm-lat", &args->armLat}, {"--eng-arm", &args->engArm}, {"--lat-arm", &args->latArm}},
+        {"Armenian in Latin letters", "an English text in Armenian letters, by its sound",
+         "Armenian typed in Latin letters back in Armenian letters"});
     tr->callback([args, &result] { result = translit(*args); });
 
-    CLI::App* cc = app.add_subcommand("case", "Change the case of the Armenian or the Latin letters of a UTF-8 text");
+    CLI::App* cc = app.add_subcommand(
+        "case", "Change the case of the Armenian or the Latin letters of a UTF-8 text");
     cc->add_option("FILE", args->files, "text files (default: standard input)");
     requireOne(cc,
                {{"--arm-upper", &args->armUpper},
                 {"--arm-lower", &args->armLower},
                 {"--eng-upper", &args->engUpper},
                 {"--eng-lower", &args->engLower}},
-               {"Armenian capitals (և becomes ԵՎ)", "Armenian small letters", "Latin capitals", "Latin small letters"});
+               {"Armenian capitals (և becomes ԵՎ)", "Armenian small letters", "Latin capitals",
+                "Latin small letters"});
     cc->callback([args, &result] { result = changeCase(*args); });
 
-    CLI::App* cv = app.add_subcommand("convert", "Convert between UTF-8 and the one-byte Armenian font encoding");
+    CLI::App* cv = app.add_subcommand(
+        "convert", "Convert between UTF-8 and the one-byte Armenian font encoding");
     cv->add_option("FILE", args->files, "files (default: standard input)");
     requireOne(cv, {{"--to-font", &args->toFont}, {"--to-unicode", &args->toUnicode}},
                {"UTF-8 in, font-encoded bytes out", "font-encoded bytes in, UTF-8 out"});

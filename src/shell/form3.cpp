@@ -21,12 +21,12 @@ namespace vorlexa::shell {
 
 namespace {
 
-constexpr int kWidth = 520;   // room for a paragraph of pasted text
+constexpr int kWidth = 520;  // room for a paragraph of pasted text
 constexpr int kHeight = 300;
 
 // The selection of Text4 through the main window's own view of it.
 class Text4Selection : public text_tools::SelectionBox {
-public:
+  public:
     explicit Text4Selection(app::Form1View& view) : view_(view) {}
 
     FontText selectedText() const override {
@@ -45,7 +45,7 @@ public:
         view_.selectText4({static_cast<int>(start), static_cast<int>(text.size())});
     }
 
-private:
+  private:
     app::Form1View& view_;
 };
 
@@ -53,21 +53,24 @@ private:
 // one-byte font draws for them. What it gives to the clipboard is the text itself, so a copy
 // after a paste is font text for a document in that font, and after Label1 it is Unicode.
 class ConverterBox : public QPlainTextEdit {
-public:
-    ConverterBox(const text_tools::ConverterForm& logic, QWidget* parent) : QPlainTextEdit(parent), logic_(logic) {}
+  public:
+    ConverterBox(const text_tools::ConverterForm& logic, QWidget* parent)
+        : QPlainTextEdit(parent), logic_(logic) {}
 
-protected:
+  protected:
     QMimeData* createMimeDataFromSelection() const override {
         const QTextCursor cursor = textCursor();
         const std::u16string& text = logic_.TextBox1;
-        const std::size_t from = std::min(static_cast<std::size_t>(cursor.selectionStart()), text.size());
-        const std::size_t to = std::min(static_cast<std::size_t>(cursor.selectionEnd()), text.size());
+        const std::size_t from =
+            std::min(static_cast<std::size_t>(cursor.selectionStart()), text.size());
+        const std::size_t to =
+            std::min(static_cast<std::size_t>(cursor.selectionEnd()), text.size());
         auto* data = new QMimeData;
         data->setText(QString::fromStdU16String(text.substr(from, to - from)));
         return data;
     }
 
-private:
+  private:
     const text_tools::ConverterForm& logic_;
 };
 
@@ -92,8 +95,9 @@ Form3::Form3(QWidget* parent) : QWidget(parent, Qt::Window) {
     CheckBox1 = new QCheckBox(tr("Convert only, don't translate"), this);
     FaceLabel = new QLabel(this);
     FaceLabel->setObjectName(QStringLiteral("FaceLabel"));
-    FaceLabel->setToolTip(tr("What a copy of the box gives: Arial Armenian, one byte per letter for documents "
-                             "in that font; sylfaen, Unicode"));
+    FaceLabel->setToolTip(
+        tr("What a copy of the box gives: Arial Armenian, one byte per letter for documents "
+           "in that font; sylfaen, Unicode"));
     CheckBox1->setObjectName(QStringLiteral("CheckBox1"));
     for (QLabel* label : {Label1, Label3}) {
         // Clickable labels: they look like links and take the keyboard focus too.

@@ -14,8 +14,10 @@
 namespace {
 
 class AnswerNo : public vorlexa::shell::Prompter {
-public:
-    int ask(QWidget*, const QString&, const QString&, vorlexa::Buttons) override { return vorlexa::kAnswerNo; }
+  public:
+    int ask(QWidget*, const QString&, const QString&, vorlexa::Buttons) override {
+        return vorlexa::kAnswerNo;
+    }
     void notify(QWidget*, const QString&, const QString&) override {}
 };
 
@@ -26,9 +28,12 @@ constexpr int kSettleMilliseconds = 700;  // the windows are mapped and drawn by
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QCommandLineParser parser;
-    const QCommandLineOption dataDir(QStringLiteral("data-dir"), QStringLiteral("Working folder."), QStringLiteral("DIR"));
-    const QCommandLineOption output(QStringLiteral("output"), QStringLiteral("PNG file to write."), QStringLiteral("FILE"));
-    const QCommandLineOption text(QStringLiteral("text"), QStringLiteral("Unicode text pasted into the converter."),
+    const QCommandLineOption dataDir(QStringLiteral("data-dir"), QStringLiteral("Working folder."),
+                                     QStringLiteral("DIR"));
+    const QCommandLineOption output(QStringLiteral("output"), QStringLiteral("PNG file to write."),
+                                    QStringLiteral("FILE"));
+    const QCommandLineOption text(QStringLiteral("text"),
+                                  QStringLiteral("Unicode text pasted into the converter."),
                                   QStringLiteral("TEXT"));
     parser.addOptions({dataDir, output, text});
     parser.process(application);
@@ -43,7 +48,8 @@ int main(int argc, char** argv) {
         return 1;
     window.show();
     converter->uta_Click();
-    converter->findChild<QPlainTextEdit*>(QStringLiteral("TextBox1"))->insertPlainText(parser.value(text));
+    converter->findChild<QPlainTextEdit*>(QStringLiteral("TextBox1"))
+        ->insertPlainText(parser.value(text));
 
     int result = 1;
     QTimer::singleShot(kSettleMilliseconds, [&] {

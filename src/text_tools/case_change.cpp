@@ -19,14 +19,17 @@ void ArmCaseConv(FontText& WorkText, int CaseMode) {
         }
         WorkText = std::move(out);
     } else if (CaseMode == kArmenianLower) {
-        for (char& ch : WorkText) ch = static_cast<char>(font::toSmall(static_cast<unsigned char>(ch)));
+        for (char& ch : WorkText)
+            ch = static_cast<char>(font::toSmall(static_cast<unsigned char>(ch)));
     }
 }
 
 void EngCaseConv(FontText& WorkText, int CaseMode) {
     for (char& ch : WorkText) {
-        if (CaseMode == kEnglishUpper && ch >= 'a' && ch <= 'z') ch = static_cast<char>(ch - 'a' + 'A');
-        if (CaseMode == kEnglishLower && ch >= 'A' && ch <= 'Z') ch = static_cast<char>(ch - 'A' + 'a');
+        if (CaseMode == kEnglishUpper && ch >= 'a' && ch <= 'z')
+            ch = static_cast<char>(ch - 'a' + 'A');
+        if (CaseMode == kEnglishLower && ch >= 'A' && ch <= 'Z')
+            ch = static_cast<char>(ch - 'A' + 'a');
     }
 }
 

@@ -18,7 +18,8 @@ FontText fontTextOfConverted(std::u16string_view converted) {
         const bool pair = unit >= 0xD800 && unit <= 0xDBFF && i + 1 < converted.size() &&
                           converted[i + 1] >= 0xDC00 && converted[i + 1] <= 0xDFFF;
         if (pair) {
-            cp = 0x10000 + ((static_cast<char32_t>(unit) - 0xD800) << 10) + (converted[i + 1] - 0xDC00);
+            cp = 0x10000 + ((static_cast<char32_t>(unit) - 0xD800) << 10) +
+                 (converted[i + 1] - 0xDC00);
             ++i;
         } else if (unit >= 0xD800 && unit <= 0xDFFF) {
             cp = font::kReplacementChar;  // half a pair stands for nothing

@@ -8,7 +8,8 @@ using namespace vorlexa::literals;
 
 Question spellCheckQuestion() {
     Question q;
-    q.text = {"Would you like to check spelling?", FontText("Կկամենայի՞ք կատարել սխալների ուղղում:"_ft)};
+    q.text = {"Would you like to check spelling?",
+              FontText("Կկամենայի՞ք կատարել սխալների ուղղում:"_ft)};
     q.title = {"Attention", FontText("Ուշադրություն"_ft)};
     q.buttons = Buttons::YesNo;
     return q;
@@ -31,9 +32,13 @@ void ResultBoxTools::transliterate(Transliteration which) {
     host_.setProgress(100);
 }
 
-void ResultBoxTools::cvtae_Click() { transliterate(Transliteration::ArmenianToLatin); }
+void ResultBoxTools::cvtae_Click() {
+    transliterate(Transliteration::ArmenianToLatin);
+}
 
-void ResultBoxTools::ET_Click() { transliterate(Transliteration::EnglishToArmenian); }
+void ResultBoxTools::ET_Click() {
+    transliterate(Transliteration::EnglishToArmenian);
+}
 
 void ResultBoxTools::LLAT_Click() {
     transliterate(Transliteration::LatinArmenianToArmenian);
@@ -50,12 +55,20 @@ void ResultBoxTools::changeCase(int mode) {
     if (!WorkText.empty()) box_.replaceSelection(WorkText);
 }
 
-void ResultBoxTools::AUC_Click() { changeCase(kArmenianUpper); }
+void ResultBoxTools::AUC_Click() {
+    changeCase(kArmenianUpper);
+}
 
-void ResultBoxTools::ALC_Click() { changeCase(kArmenianLower); }
+void ResultBoxTools::ALC_Click() {
+    changeCase(kArmenianLower);
+}
 
-void ResultBoxTools::EUC_Click() { changeCase(kEnglishUpper); }
+void ResultBoxTools::EUC_Click() {
+    changeCase(kEnglishUpper);
+}
 
-void ResultBoxTools::ELC_Click() { changeCase(kEnglishLower); }
+void ResultBoxTools::ELC_Click() {
+    changeCase(kEnglishLower);
+}
 
 }  // namespace vorlexa::text_tools

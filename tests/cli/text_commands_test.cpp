@@ -77,7 +77,9 @@ TEST(CliCase, EachModeTouchesItsOwnAlphabet) {
     EXPECT_EQ(runCli("case --eng-lower", "ԵՐ ABC Ж").out, "ԵՐ abc Ж");
 }
 
-TEST(CliCase, NoModeIsAUsageError) { EXPECT_EQ(runCli("case", "x").exitCode, 2); }
+TEST(CliCase, NoModeIsAUsageError) {
+    EXPECT_EQ(runCli("case", "x").exitCode, 2);
+}
 
 TEST(CliConvert, ToFontWritesOneBytePerLetter) {
     const auto r = runCli("convert --to-font", "Բարև: ok\r\n");

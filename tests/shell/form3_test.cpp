@@ -27,7 +27,7 @@ using vorlexa::shell::Form3;
 namespace {
 
 class RecordingPrompter : public shell::Prompter {
-public:
+  public:
     QStringList asked;
     QStringList notices;
     int answer = kAnswerNo;
@@ -44,14 +44,16 @@ void writeFile(const std::filesystem::path& path, const char* text) {
     std::ofstream(path, std::ios::binary) << text;
 }
 
-QString u(const char* utf8) { return QString::fromUtf8(utf8); }
+QString u(const char* utf8) {
+    return QString::fromUtf8(utf8);
+}
 
 }  // namespace
 
 class Form3Test : public QObject {
     Q_OBJECT
 
-private:
+  private:
     QTemporaryDir dir_;
     std::filesystem::path data_;
     RecordingPrompter prompter_;
@@ -63,7 +65,8 @@ private:
         window_->setPrompter(&prompter_);
         window_->saveForExit = [] { return true; };
         form3_ = shell::installTextTools(*window_, std::move(hooks));
-        if (window_->start(data_, {}) != app::StartResult::Started) qFatal("the window did not start");
+        if (window_->start(data_, {}) != app::StartResult::Started)
+            qFatal("the window did not start");
         window_->show();
         if (!QTest::qWaitForWindowExposed(window_.get())) qWarning("window not exposed");
         return *window_;
@@ -97,10 +100,11 @@ private:
         text4()->setTextCursor(c);
     }
 
-private slots:
+  private slots:
     void init() {
         QVERIFY(dir_.isValid());
-        const std::filesystem::path root = dir_.path().toStdString() + "/" + QTest::currentTestFunction();
+        const std::filesystem::path root =
+            dir_.path().toStdString() + "/" + QTest::currentTestFunction();
         std::filesystem::remove_all(root);
         writeFile(root / "src/lexicon/en-hy.tsv", test::kFixtureEnglish);
         writeFile(root / "src/lexicon/hy-en.tsv", test::kFixtureArmenian);
@@ -141,23 +145,27 @@ private slots:
         // The box holds the font codes of the letters and shows them as the one-byte font draws
         // them; a copy gives the codes, as a document in that font wants them.
         QCOMPARE(textBox1()->toPlainText(), u("տուն"));
-        QCOMPARE(QString::fromStdString(form3_->logic().TextBox1Font), QStringLiteral("Arial Armenian"));
+        QCOMPARE(QString::fromStdString(form3_->logic().TextBox1Font),
+                 QStringLiteral("Arial Armenian"));
         QCOMPARE(child<QLabel>(form3_, "FaceLabel")->text(), QStringLiteral("Arial Armenian"));
         const QChar codes[] = {QChar(0xEF), QChar(0xE1), QChar(0xF5), QChar(0xDD)};  // տ ո ւ ն
         QCOMPARE(copyAll(), QString(codes, 4));
         QCOMPARE(text3()->toPlainText(), u("տուն"));
-        QVERIFY2(text4()->toPlainText().contains(QStringLiteral("house")), qPrintable(text4()->toPlainText()));
+        QVERIFY2(text4()->toPlainText().contains(QStringLiteral("house")),
+                 qPrintable(text4()->toPlainText()));
         QVERIFY(window_->logic().checked("SUT"));
     }
 
     void pasteOfOldFontTextIsShownInArmenianAndTranslated() {
         open();
         trigger("uta");
-        const QChar codes[] = {QChar(0xD9), QChar(0xBB), QChar(0xCD)};  // մ ե ծ in the one-byte font
+        const QChar codes[] = {QChar(0xD9), QChar(0xBB),
+                               QChar(0xCD)};  // մ ե ծ in the one-byte font
         textBox1()->insertPlainText(QString(codes, 3));
         QCOMPARE(textBox1()->toPlainText(), u("մեծ"));
         QCOMPARE(text3()->toPlainText(), u("մեծ"));
-        QVERIFY2(text4()->toPlainText().contains(QStringLiteral("big")), qPrintable(text4()->toPlainText()));
+        QVERIFY2(text4()->toPlainText().contains(QStringLiteral("big")),
+                 qPrintable(text4()->toPlainText()));
     }
 
     void longRunGoingOnUnattendedHidesTheConverter() {
@@ -203,8 +211,9 @@ private slots:
         open();
         text3()->setPlainText(QStringLiteral("?????? ????"));
         QCOMPARE(prompter_.notices.size(), 1);
-        QCOMPARE(prompter_.notices[0],
-                 QStringLiteral("Armenian text is UNICODE.\nClick 'Ctrl+V' after 'OK' to continue."));
+        QCOMPARE(
+            prompter_.notices[0],
+            QStringLiteral("Armenian text is UNICODE.\nClick 'Ctrl+V' after 'OK' to continue."));
         QVERIFY(form3_->isVisible());
         QCOMPARE(form3_->logic().position, 0);
         QCOMPARE(form3_->focusWidget(), textBox1());
@@ -213,7 +222,8 @@ private slots:
         // The paste lands in the box and is translated.
         textBox1()->insertPlainText(u("մեծ"));
         QCOMPARE(text3()->toPlainText(), u("մեծ"));
-        QVERIFY2(text4()->toPlainText().contains(QStringLiteral("big")), qPrintable(text4()->toPlainText()));
+        QVERIFY2(text4()->toPlainText().contains(QStringLiteral("big")),
+                 qPrintable(text4()->toPlainText()));
     }
 
     void transliterationChangesOnlyTheSelectionOfText4() {

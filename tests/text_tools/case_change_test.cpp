@@ -7,7 +7,9 @@ using namespace vorlexa;
 using namespace vorlexa::text_tools;
 
 namespace {
-std::string cased(const char* utf8, int mode) { return toUtf8(changeCase(fromUtf8(utf8), mode)); }
+std::string cased(const char* utf8, int mode) {
+    return toUtf8(changeCase(fromUtf8(utf8), mode));
+}
 }  // namespace
 
 TEST(ArmCaseConv, UpperCaseWritesTheLigatureAsTwoCapitals) {

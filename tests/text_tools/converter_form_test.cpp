@@ -118,5 +118,7 @@ TEST(FontTextOfConverted, CharactersTheConverterLeftTravelAsThemselves) {
 
 TEST(FontTextOfConverted, HalfASurrogatePairStandsForNothing) {
     const std::u16string lone{0xD800, u'a'};
-    EXPECT_EQ(toUtf8(fontTextOfConverted(lone)), "\xEF\xBF\xBD" "a");
+    EXPECT_EQ(toUtf8(fontTextOfConverted(lone)),
+              "\xEF\xBF\xBD"
+              "a");
 }

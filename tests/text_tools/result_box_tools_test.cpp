@@ -13,7 +13,7 @@ namespace {
 
 // A result box: the whole text and a selection of it, in font positions.
 class Box : public SelectionBox {
-public:
+  public:
     Box(const char* utf8, std::size_t start, std::size_t length)
         : text(fromUtf8(utf8)), start(start), length(length) {}
 
@@ -32,7 +32,9 @@ public:
 };
 
 // Font positions of a UTF-8 prefix.
-std::size_t at(const char* utf8) { return fromUtf8(utf8).size(); }
+std::size_t at(const char* utf8) {
+    return fromUtf8(utf8).size();
+}
 
 struct Fixture {
     NullHost host;
@@ -48,7 +50,7 @@ TEST(ResultBoxTools, TransliterationChangesOnlyTheSelection) {
     tools.cvtae_Click();
     EXPECT_EQ(box.utf8(), "Բարև Erevan");
     EXPECT_EQ(toUtf8(box.selectedText()), "Erevan");  // the new text stays selected
-    EXPECT_EQ(toUtf8(f.OutputText), "Erevan");       // the last converted selection
+    EXPECT_EQ(toUtf8(f.OutputText), "Erevan");        // the last converted selection
 }
 
 TEST(ResultBoxTools, FrameUnchecksInstantTranslationAndEndsWithArrowAndFullBar) {

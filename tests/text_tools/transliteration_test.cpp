@@ -12,9 +12,15 @@ namespace {
 std::string run(const char* utf8, Transliteration which) {
     return toUtf8(text_tools::transliterate(fromUtf8(utf8), which));
 }
-std::string armLat(const char* utf8) { return run(utf8, Transliteration::ArmenianToLatin); }
-std::string engArm(const char* utf8) { return run(utf8, Transliteration::EnglishToArmenian); }
-std::string latArm(const char* utf8) { return run(utf8, Transliteration::LatinArmenianToArmenian); }
+std::string armLat(const char* utf8) {
+    return run(utf8, Transliteration::ArmenianToLatin);
+}
+std::string engArm(const char* utf8) {
+    return run(utf8, Transliteration::EnglishToArmenian);
+}
+std::string latArm(const char* utf8) {
+    return run(utf8, Transliteration::LatinArmenianToArmenian);
+}
 
 }  // namespace
 
@@ -53,7 +59,7 @@ TEST(ArmenianToLatin, GreetingAndCapitalWrittenInLatinLetters) {
 }
 
 TEST(ArmenianToLatin, SmallOuAtTheStartGoesThroughOuToU) {
-    EXPECT_EQ(armLat("ու"), "u");      // ո to o, ւ to u, then "ou" to "u"
+    EXPECT_EQ(armLat("ու"), "u");  // ո to o, ւ to u, then "ou" to "u"
     EXPECT_EQ(armLat("դու"), "du");
 }
 
@@ -190,8 +196,8 @@ TEST(Transliteration, EmptyTextStaysEmpty) {
 }
 
 TEST(Transliteration, BytesThatAreNoLetterPassUnchanged) {
-    const FontText odd{static_cast<char>(0x80), static_cast<char>(0xA9), ' ', static_cast<char>(0xFE),
-                       static_cast<char>(0xAA)};
+    const FontText odd{static_cast<char>(0x80), static_cast<char>(0xA9), ' ',
+                       static_cast<char>(0xFE), static_cast<char>(0xAA)};
     for (auto which : {Transliteration::ArmenianToLatin, Transliteration::EnglishToArmenian,
                        Transliteration::LatinArmenianToArmenian})
         EXPECT_EQ(text_tools::transliterate(odd, which), odd);

@@ -38,15 +38,19 @@ TEST(Utf16Save, MakesNoEncFileAndDoesNotWait) {
     EXPECT_FALSE(std::filesystem::exists(dir / "enc"));
 }
 
-TEST(Utf16Save, EmptyTextGivesOnlyTheByteOrderMark) { EXPECT_EQ(saved(""), bytes({0xFF, 0xFE})); }
+TEST(Utf16Save, EmptyTextGivesOnlyTheByteOrderMark) {
+    EXPECT_EQ(saved(""), bytes({0xFF, 0xFE}));
+}
 
 TEST(Utf16Save, OpeningGuillemetIsWrittenAsLigatureAndClosingAsItsCode) {
-    EXPECT_EQ(saved(bytes({167, 166, 168})), bytes({0xFF, 0xFE, 0x87, 0x05, 0xA6, 0x00, 0x87, 0x05}));
+    EXPECT_EQ(saved(bytes({167, 166, 168})),
+              bytes({0xFF, 0xFE, 0x87, 0x05, 0xA6, 0x00, 0x87, 0x05}));
 }
 
 TEST(Utf16Save, QuestionSignLettersAndLineBreaks) {
     EXPECT_EQ(saved(bytes({177, 178, 179, 252, 253, '\r', '\n'})),
-              bytes({0xFF, 0xFE, 0x5E, 0x05, 0x31, 0x05, 0x61, 0x05, 0x56, 0x05, 0x86, 0x05, 0x0D, 0, 0x0A, 0}));
+              bytes({0xFF, 0xFE, 0x5E, 0x05, 0x31, 0x05, 0x61, 0x05, 0x56, 0x05, 0x86, 0x05, 0x0D,
+                     0, 0x0A, 0}));
 }
 
 TEST(Utf16Save, GivesTheSameBytesAsTheRouteThroughEnc) {
