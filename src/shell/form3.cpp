@@ -26,7 +26,7 @@ constexpr int kHeight = 300;
 
 // The selection of Text4 through the main window's own view of it.
 class Text4Selection : public text_tools::SelectionBox {
-  public:
+public:
     explicit Text4Selection(app::Form1View& view) : view_(view) {}
 
     FontText selectedText() const override {
@@ -45,7 +45,7 @@ class Text4Selection : public text_tools::SelectionBox {
         view_.selectText4({static_cast<int>(start), static_cast<int>(text.size())});
     }
 
-  private:
+private:
     app::Form1View& view_;
 };
 
@@ -53,11 +53,11 @@ class Text4Selection : public text_tools::SelectionBox {
 // one-byte font draws for them. What it gives to the clipboard is the text itself, so a copy
 // after a paste is font text for a document in that font, and after Label1 it is Unicode.
 class ConverterBox : public QPlainTextEdit {
-  public:
+public:
     ConverterBox(const text_tools::ConverterForm& logic, QWidget* parent)
         : QPlainTextEdit(parent), logic_(logic) {}
 
-  protected:
+protected:
     QMimeData* createMimeDataFromSelection() const override {
         const QTextCursor cursor = textCursor();
         const std::u16string& text = logic_.TextBox1;
@@ -70,7 +70,7 @@ class ConverterBox : public QPlainTextEdit {
         return data;
     }
 
-  private:
+private:
     const text_tools::ConverterForm& logic_;
 };
 

@@ -24,7 +24,7 @@ inline constexpr int kTwipsPerPixel = 15;
 class Form3 : public QWidget {
     Q_OBJECT
 
-  public:
+public:
     explicit Form3(QWidget* parent = nullptr);
 
     text_tools::ConverterForm& logic() { return logic_; }
@@ -37,11 +37,11 @@ class Form3 : public QWidget {
     // Redraws the widgets from the logic's state.
     void sync();
 
-  protected:
+protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
-  private:
+private:
     void textChanged();
     QString shownText() const;
     void place();

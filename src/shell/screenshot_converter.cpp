@@ -14,7 +14,7 @@
 namespace {
 
 class AnswerNo : public vorlexa::shell::Prompter {
-  public:
+public:
     int ask(QWidget*, const QString&, const QString&, vorlexa::Buttons) override {
         return vorlexa::kAnswerNo;
     }

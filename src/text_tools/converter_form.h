@@ -26,7 +26,7 @@ inline constexpr int kMenuPosition = 2800;  // opened from the menu: below the m
 inline constexpr int kPastePosition = 0;    // opened by a run that found Unicode: at the top
 
 class ConverterForm {
-  public:
+public:
     // ---- The window's state, which the widgets show ---------------------------------------
     std::u16string TextBox1;
     std::string TextBox1Font = std::string(kUnicodeFace);
@@ -54,7 +54,7 @@ class ConverterForm {
     void Label1_Click();
     void Label3_Click();
 
-  private:
+private:
     void busy(bool on) const;
 };
 

@@ -14,7 +14,7 @@ namespace vorlexa::text_tools {
 
 // The selection of Text4 as the commands see it.
 class SelectionBox {
-  public:
+public:
     virtual ~SelectionBox() = default;
     virtual FontText selectedText() const = 0;
     // Puts `text` in place of the selection and selects it.
@@ -25,7 +25,7 @@ class SelectionBox {
 Question spellCheckQuestion();
 
 class ResultBoxTools {
-  public:
+public:
     // `outputText` is the engine's OutputText, which keeps the last converted selection.
     ResultBoxTools(Host& host, SelectionBox& box, FontText& outputText);
 
@@ -46,7 +46,7 @@ class ResultBoxTools {
     // nobody, since there is no pass to start.
     std::function<void()> CorrectorWorning;
 
-  private:
+private:
     void transliterate(Transliteration which);
     void changeCase(int mode);
 

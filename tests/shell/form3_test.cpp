@@ -27,7 +27,7 @@ using vorlexa::shell::Form3;
 namespace {
 
 class RecordingPrompter : public shell::Prompter {
-  public:
+public:
     QStringList asked;
     QStringList notices;
     int answer = kAnswerNo;
@@ -53,7 +53,7 @@ QString u(const char* utf8) {
 class Form3Test : public QObject {
     Q_OBJECT
 
-  private:
+private:
     QTemporaryDir dir_;
     std::filesystem::path data_;
     RecordingPrompter prompter_;
@@ -100,7 +100,7 @@ class Form3Test : public QObject {
         text4()->setTextCursor(c);
     }
 
-  private slots:
+private slots:
     void init() {
         QVERIFY(dir_.isValid());
         const std::filesystem::path root =

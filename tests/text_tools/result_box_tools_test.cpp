@@ -13,7 +13,7 @@ namespace {
 
 // A result box: the whole text and a selection of it, in font positions.
 class Box : public SelectionBox {
-  public:
+public:
     Box(const char* utf8, std::size_t start, std::size_t length)
         : text(fromUtf8(utf8)), start(start), length(length) {}
 
