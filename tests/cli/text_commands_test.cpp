@@ -4,28 +4,41 @@
 #include "support/run_cli.h"
 #include "support/temp_folder.h"
 
-using vorlexa::test::runCli;
 using vorlexa::test::shellQuote;
 
-TEST(CliTranslit, ArmenianToLatinFromStandardInput) {
+namespace {
+
+// Each test feeds the tool through files of its own, so that tests run side by side don't
+// share them.
+class CliText : public ::testing::Test {
+protected:
+    vorlexa::test::CliResult runCli(const std::string& args, const std::string& input = "") {
+        return vorlexa::test::runCli(args, input, scratch_.path());
+    }
+    vorlexa::test::TempFolder scratch_;
+};
+
+}  // namespace
+
+TEST_F(CliText, TranslitArmenianToLatinFromStandardInput) {
     const auto r = runCli("translit --arm-lat", "Բարև Երևան");
     EXPECT_EQ(r.exitCode, 0) << r.err;
     EXPECT_EQ(r.out, "Barev Erevan");
 }
 
-TEST(CliTranslit, LatinLetteredArmenianBack) {
+TEST_F(CliText, TranslitLatinLetteredArmenianBack) {
     const auto r = runCli("translit --lat-arm", "barev");
     EXPECT_EQ(r.exitCode, 0) << r.err;
     EXPECT_EQ(r.out, "բարև");
 }
 
-TEST(CliTranslit, EnglishByItsSoundKeepsLineEnds) {
+TEST_F(CliText, TranslitEnglishByItsSoundKeepsLineEnds) {
     const auto r = runCli("translit --eng-arm", "cat\nthe end\n");
     EXPECT_EQ(r.exitCode, 0) << r.err;
     EXPECT_EQ(r.out, "քաթ\nդ ենդ\n");
 }
 
-TEST(CliTranslit, FilesAreReadInTurn) {
+TEST_F(CliText, TranslitFilesAreReadInTurn) {
     vorlexa::test::TempFolder dir;
     dir.write("a.txt", "Այո ");
     dir.write("b.txt", "ոչ");
@@ -35,65 +48,65 @@ TEST(CliTranslit, FilesAreReadInTurn) {
     EXPECT_EQ(r.out, "Ayo och");
 }
 
-TEST(CliTranslit, EmptyInputGivesEmptyOutput) {
+TEST_F(CliText, TranslitEmptyInputGivesEmptyOutput) {
     const auto r = runCli("translit --arm-lat", "");
     EXPECT_EQ(r.exitCode, 0);
     EXPECT_EQ(r.out, "");
 }
 
-TEST(CliTranslit, TextWithoutArmenianPassesExceptTheSigns) {
+TEST_F(CliText, TranslitTextWithoutArmenianPassesExceptTheSigns) {
     const auto r = runCli("translit --arm-lat", "Hello. 42 Жук");
     EXPECT_EQ(r.exitCode, 0);
     EXPECT_EQ(r.out, "Hello: 42 Жук");
 }
 
-TEST(CliTranslit, InvalidUtf8IsAnErrorWithItsOffset) {
+TEST_F(CliText, TranslitInvalidUtf8IsAnErrorWithItsOffset) {
     const auto r = runCli("translit --arm-lat", "ab\xC3(");
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_EQ(r.out, "");
     EXPECT_NE(r.err.find("offset 2"), std::string::npos) << r.err;
 }
 
-TEST(CliTranslit, MissingFileIsAFailure) {
+TEST_F(CliText, TranslitMissingFileIsAFailure) {
     const auto r = runCli("translit --arm-lat /nonexistent/vorlexa-text.txt");
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_NE(r.err.find("cannot read"), std::string::npos) << r.err;
 }
 
-TEST(CliTranslit, NoModeOrTwoModesIsAUsageError) {
+TEST_F(CliText, TranslitNoModeOrTwoModesIsAUsageError) {
     EXPECT_EQ(runCli("translit", "x").exitCode, 2);
     EXPECT_EQ(runCli("translit --arm-lat --lat-arm", "x").exitCode, 2);
 }
 
-TEST(CliCase, ArmenianUpperWritesTheLigatureAsTwoCapitals) {
+TEST_F(CliText, CaseArmenianUpperWritesTheLigatureAsTwoCapitals) {
     const auto r = runCli("case --arm-upper", "Երևան, hello");
     EXPECT_EQ(r.exitCode, 0) << r.err;
     EXPECT_EQ(r.out, "ԵՐԵՎԱՆ, hello");
 }
 
-TEST(CliCase, EachModeTouchesItsOwnAlphabet) {
+TEST_F(CliText, CaseEachModeTouchesItsOwnAlphabet) {
     EXPECT_EQ(runCli("case --arm-lower", "ԵՐԵՎԱՆ ABC").out, "երեվան ABC");
     EXPECT_EQ(runCli("case --eng-upper", "Երևան abc").out, "Երևան ABC");
     EXPECT_EQ(runCli("case --eng-lower", "ԵՐ ABC Ж").out, "ԵՐ abc Ж");
 }
 
-TEST(CliCase, NoModeIsAUsageError) {
+TEST_F(CliText, CaseNoModeIsAUsageError) {
     EXPECT_EQ(runCli("case", "x").exitCode, 2);
 }
 
-TEST(CliConvert, ToFontWritesOneBytePerLetter) {
+TEST_F(CliText, ConvertToFontWritesOneBytePerLetter) {
     const auto r = runCli("convert --to-font", "Բարև: ok\r\n");
     EXPECT_EQ(r.exitCode, 0) << r.err;
     EXPECT_EQ(r.out, std::string("\xB4\xB3\xF1\xA8: ok\r\n"));
 }
 
-TEST(CliConvert, ToUnicodeReadsFontBytes) {
+TEST_F(CliText, ConvertToUnicodeReadsFontBytes) {
     const auto r = runCli("convert --to-unicode", std::string("\xB2\xB1 \xA7x\xA6\n"));
     EXPECT_EQ(r.exitCode, 0) << r.err;
     EXPECT_EQ(r.out, "Ա՞ «x»\n");
 }
 
-TEST(CliConvert, CharactersOutsideTheFontComeBackUnchanged) {
+TEST_F(CliText, ConvertCharactersOutsideTheFontComeBackUnchanged) {
     const auto font = runCli("convert --to-font", "Жук ա 😀");
     EXPECT_EQ(font.exitCode, 0);
     EXPECT_NE(font.err.find("escapes"), std::string::npos) << font.err;
@@ -102,17 +115,17 @@ TEST(CliConvert, CharactersOutsideTheFontComeBackUnchanged) {
     EXPECT_EQ(back.out, "Жук ա 😀");
 }
 
-TEST(CliConvert, ByteThatStandsForNothingIsAnError) {
+TEST_F(CliText, ConvertByteThatStandsForNothingIsAnError) {
     const auto r = runCli("convert --to-unicode", std::string("ok\x80"));
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_NE(r.err.find("byte 128 at offset 2"), std::string::npos) << r.err;
 }
 
-TEST(CliConvert, InvalidUtf8ToFontIsAnError) {
+TEST_F(CliText, ConvertInvalidUtf8ToFontIsAnError) {
     const auto r = runCli("convert --to-font", std::string("\xFF"));
     EXPECT_EQ(r.exitCode, 1);
 }
 
-TEST(CliConvert, BothDirectionsAtOnceIsAUsageError) {
+TEST_F(CliText, ConvertBothDirectionsAtOnceIsAUsageError) {
     EXPECT_EQ(runCli("convert --to-font --to-unicode", "x").exitCode, 2);
 }
