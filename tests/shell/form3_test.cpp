@@ -207,6 +207,14 @@ private slots:
         QVERIFY(!check->isChecked());
     }
 
+    void labelsAnswerTheKeyboardToo() {
+        open();
+        trigger("uta");
+        auto* label3 = child<QLabel>(form3_, "Label3");
+        QTest::keyClick(label3, Qt::Key_Space);
+        QVERIFY(!form3_->isVisible());
+    }
+
     void runOnUnicodePastedAsQuestionMarksOpensTheConverterForThePaste() {
         open();
         text3()->setPlainText(QStringLiteral("?????? ????"));
