@@ -119,19 +119,12 @@ int changeCase(const TextArgs& args) {
 std::optional<std::string> unicodeOfFontBytes(const std::string& name, const std::string& bytes) {
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         const auto c = static_cast<unsigned char>(bytes[i]);
-        if (c == font::kEscape) {
-            // An escape: kEscape and its digits, written by "convert --to-font" for a character
-            // the font has no code for.
-            bool whole = i + font::kEscapeDigits < bytes.size();
-            for (int k = 1; whole && k <= font::kEscapeDigits; ++k)
-                whole = font::escapeDigitValue(static_cast<unsigned char>(bytes[i + k])) >= 0;
-            if (whole) {
-                i += font::kEscapeDigits;
-                continue;
-            }
-        } else if (c == 0 || font::unicodeOf(c) != 0) {
+        if (escapeAt(bytes, i)) {
+            // An escape, written by "convert --to-font" for a character the font has no code for.
+            i += font::kEscapeDigits;
             continue;
         }
+        if (c == 0 || font::unicodeOf(c) != 0) continue;
         printError(name + ": byte " + std::to_string(c) + " at offset " + std::to_string(i) +
                    " stands for no character of the font encoding");
         return std::nullopt;

@@ -1,7 +1,6 @@
 #include "text/converters.h"
 
 #include <fstream>
-#include <optional>
 #include <thread>
 
 #include "text/font_text.h"
@@ -70,20 +69,6 @@ namespace {
 void appendUnit(std::string& bytes, char16_t unit) {
     bytes += static_cast<char>(unit & 0xFF);
     bytes += static_cast<char>(unit >> 8);
-}
-
-// The character of a well-formed escape at text[i], or nothing.
-std::optional<char32_t> escapeAt(std::string_view text, std::size_t i) {
-    if (static_cast<unsigned char>(text[i]) != font::kEscape || i + font::kEscapeDigits >= text.size())
-        return std::nullopt;
-    char32_t cp = 0;
-    for (int k = 1; k <= font::kEscapeDigits; ++k) {
-        const int digit = font::escapeDigitValue(static_cast<unsigned char>(text[i + k]));
-        if (digit < 0) return std::nullopt;
-        cp = (cp << 4) | static_cast<char32_t>(digit);
-    }
-    if (cp > 0x10FFFF || (cp >= 0xD800 && cp <= 0xDFFF)) return std::nullopt;
-    return cp;
 }
 
 }  // namespace

@@ -118,3 +118,11 @@ TEST(FontCase, FoldingTurnsCapitalsIntoSmallLetters) {
     EXPECT_EQ(foldArmenianCase("ՏՈՒՆ Abc"_ft), "տուն Abc"_ft);
     EXPECT_EQ(foldArmenianCase("և"_ft), "և"_ft);
 }
+
+TEST(EscapeAt, ReadsTheCharacterOfAWholeEscapeOnly) {
+    const FontText text = fromUtf8("aЖ");
+    EXPECT_EQ(escapeAt(text, 1), std::optional<char32_t>(U'Ж'));
+    EXPECT_EQ(escapeAt(text, 0), std::nullopt);               // no escape starts at a letter
+    EXPECT_EQ(escapeAt(text.substr(0, 4), 1), std::nullopt);  // cut short
+    EXPECT_EQ(escapeAt(text, text.size()), std::nullopt);     // past the end
+}
