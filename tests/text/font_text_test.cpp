@@ -4,16 +4,11 @@
 
 #include <random>
 
+#include "support/byte_string.h"
+
 using namespace vorlexa;
 using namespace vorlexa::literals;
-
-namespace {
-std::string bytes(std::initializer_list<int> codes) {
-    std::string s;
-    for (int c : codes) s += static_cast<char>(c);
-    return s;
-}
-}  // namespace
+using vorlexa::test::bytes;
 
 TEST(FontCodes, CapitalsAreEvenAndSmallLettersTheNextOddCode) {
     EXPECT_EQ("Ա"_ft, bytes({0xB2}));

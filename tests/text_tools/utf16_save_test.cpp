@@ -4,11 +4,13 @@
 
 #include <sstream>
 
+#include "support/byte_string.h"
 #include "support/temp_folder.h"
 #include "text/converters.h"
 #include "text/font_text.h"
 
 using namespace vorlexa;
+using vorlexa::test::bytes;
 
 namespace {
 
@@ -17,12 +19,6 @@ std::string saved(const std::string& text, Utf16Export options = {}) {
     std::string body;
     EXPECT_TRUE(ResultANSCIToUnicode(text, file9, body, options));
     return file9.str();
-}
-
-std::string bytes(std::initializer_list<int> values) {
-    std::string out;
-    for (int v : values) out += static_cast<char>(v);
-    return out;
 }
 
 }  // namespace
