@@ -9,6 +9,7 @@ root=$(cd "$(dirname "$0")/.." && pwd)
 build=${BUILD_DIR:-$root/build}
 out=${1:-$root/packaging/screenshots/main-window.png}
 text=${SCREENSHOT_TEXT:-"My house is big. This city is very beautiful. We read books. My brother reads a good book."}
+program=${SCREENSHOT_PROGRAM:-vorlexa-screenshot}  # tools/screenshot-converter.sh draws another window
 screen="-screen 0 1024x768x24"
 
 if ! command -v xvfb-run >/dev/null || ! command -v xauth >/dev/null; then
@@ -17,14 +18,14 @@ if ! command -v xvfb-run >/dev/null || ! command -v xauth >/dev/null; then
     DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends xvfb xauth
 fi
 
-cmake --build "$build" --target vorlexa-screenshot vorlexa_data -j 2
+cmake --build "$build" --target "$program" vorlexa_data -j 2
 
 data=$(mktemp -d)
 trap 'rm -rf "$data"' EXIT
 mkdir -p "$(dirname "$out")"
 # The xcb platform of a real (virtual) X server, not the offscreen one the tests use.
 QT_QPA_PLATFORM=xcb xvfb-run -a -s "$screen" \
-    "$build/bin/vorlexa-screenshot" --data-dir "$data" --output "$out" --text "$text"
+    "$build/bin/$program" --data-dir "$data" --output "$out" --text "$text"
 echo "$out"
 # The add-word panel, stopped at a word the shipped dictionaries lack.
 panel_out=${PANEL_OUTPUT:-$(dirname "$out")/add-word-panel.png}

@@ -528,10 +528,13 @@ void MainForm::minimiseWindow() {
     view_.minimise();
 }
 
-// The converter window has a window of its own; the main window has nothing to open or hide.
-void MainForm::openConverter() {}
+void MainForm::openConverter() {
+    if (onOpenConverter) onOpenConverter();
+}
 
-void MainForm::hideConverter() {}
+void MainForm::hideConverter() {
+    if (onHideConverter) onHideConverter();
+}
 
 void MainForm::setSaveEnabled(bool on) {
     setEnabled("Save", on);

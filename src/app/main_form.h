@@ -218,6 +218,11 @@ public:
     // The clock the progress bar is throttled by; tests set their own.
     std::function<Clock::time_point()> now = [] { return Clock::now(); };
 
+    // The converter window Form3, where the desktop has one: opened by a run that finds Unicode
+    // Armenian pasted into the source box, hidden when a long run goes on unattended.
+    std::function<void()> onOpenConverter;
+    std::function<void()> onHideConverter;
+
     // ---- Host ----------------------------------------------------------------------------
     int ask(const Question& question) override;
     void notify(const Notice& notice) override;

@@ -4,6 +4,7 @@
 
 #include "cli/cli_common.h"
 #include "cli/dict_commands.h"
+#include "cli/text_commands.h"
 #include "cli/translate_commands.h"
 #include "cli/usage_errors.h"
 
@@ -25,6 +26,7 @@ int main(int argc, char** argv) {
     int result = kExitOk;
     addDictCommands(app, options, result);
     addTranslateCommands(app, options, result);
+    addTextCommands(app, result);
 
     try {
         app.parse(argc, argv);

@@ -8,6 +8,7 @@
 #include "engine/data_folder.h"
 #include "shell/form1.h"
 #include "shell/frm_chat.h"
+#include "shell/form3.h"
 
 #ifndef VORLEXA_VERSION
 #define VORLEXA_VERSION "0.0.0"
@@ -49,6 +50,7 @@ int main(int argc, char** argv) {
 
     vorlexa::shell::Form1 window;
     vorlexa::shell::installChat(window, ownAddress);
+    vorlexa::shell::installTextTools(window);
     if (window.start(folder, vorlexa::shippedDataFolder()) == vorlexa::app::StartResult::AlreadyRunning) return 1;
     window.show();
     return QApplication::exec();

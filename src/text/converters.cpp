@@ -3,6 +3,8 @@
 #include <fstream>
 #include <thread>
 
+#include "text/font_text.h"
+
 namespace vorlexa {
 
 namespace {
@@ -46,22 +48,50 @@ int bdali(int c) {
     return (c - 129) - (c - 178) / 2;
 }
 
+char16_t utf16UnitOf(unsigned char c) {
+    if (c == 167 || c == 168) return 0x0587;  // 167 too: « is written as the ligature
+    if (c == 177) return 0x055E;
+    if (c > 177) return static_cast<char16_t>(0x0500 + bdali(c));
+    return c;
+}
+
 void encd_Click(std::string_view DialogText, const std::filesystem::path& encPath) {
     std::ofstream enc(encPath, std::ios::binary | std::ios::trunc);
     enc << "255\r\n254\r\n";
     for (const char ch : DialogText) {
-        const int c = static_cast<unsigned char>(ch);
-        int low = c;
-        int high = 0;
-        if (c == 167 || c == 168) {  // 167 too: « is written as the ligature
-            low = 135, high = 5;
-        } else if (c == 177) {
-            low = 94, high = 5;
-        } else if (c > 177) {
-            low = bdali(c), high = 5;
-        }
-        enc << low << "\r\n" << high << "\r\n";
+        const char16_t unit = utf16UnitOf(static_cast<unsigned char>(ch));
+        enc << (unit & 0xFF) << "\r\n" << (unit >> 8) << "\r\n";
     }
+}
+
+namespace {
+
+void appendUnit(std::string& bytes, char16_t unit) {
+    bytes += static_cast<char>(unit & 0xFF);
+    bytes += static_cast<char>(unit >> 8);
+}
+
+}  // namespace
+
+// A character the font has no code for travels in font text as an escape; it is saved as the
+// character itself, so that it leaves the file as it came into the window.
+std::string utf16FileBytes(std::string_view DialogText) {
+    std::string bytes = "\xFF\xFE";
+    bytes.reserve(2 + 2 * DialogText.size());
+    for (std::size_t i = 0; i < DialogText.size(); ++i) {
+        if (const auto cp = escapeAt(DialogText, i)) {
+            if (*cp >= 0x10000) {
+                appendUnit(bytes, static_cast<char16_t>(0xD800 + ((*cp - 0x10000) >> 10)));
+                appendUnit(bytes, static_cast<char16_t>(0xDC00 + ((*cp - 0x10000) & 0x3FF)));
+            } else {
+                appendUnit(bytes, static_cast<char16_t>(*cp));
+            }
+            i += font::kEscapeDigits;
+            continue;
+        }
+        appendUnit(bytes, utf16UnitOf(static_cast<unsigned char>(DialogText[i])));
+    }
+    return bytes;
 }
 
 bool decd_Click(const std::filesystem::path& encPath, std::string& Utf16Body) {
@@ -78,6 +108,13 @@ bool decd_Click(const std::filesystem::path& encPath, std::string& Utf16Body) {
 
 bool ResultANSCIToUnicode(std::string_view DialogText, std::ostream& file9, std::string& Utf16Body,
                           const Utf16Export& options) {
+    if (!options.throughEncFile) {
+        Utf16Body += utf16FileBytes(DialogText);
+        if (options.aas) return true;
+        file9 << Utf16Body;
+        file9.flush();
+        return static_cast<bool>(file9);
+    }
     encd_Click(DialogText, options.encPath);
     if (options.sleep)
         options.sleep(kEncSettleTime);

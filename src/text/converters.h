@@ -22,6 +22,10 @@ void AnsciUnicodeConverter(std::u16string& ConverterText);
 // Low byte of the UTF-16 unit of an Armenian letter code above 177.
 int bdali(int c);
 
+// The UTF-16 unit a font code is saved as: 167 and 168 as the ligature U+0587 (so « is written
+// as և), 177 as U+055E, other codes up to 177 as themselves, the letters through bdali.
+char16_t utf16UnitOf(unsigned char c);
+
 // Writes the lines of the temporary file `enc`: "255", "254", then a low and a high byte per
 // character of DialogText.
 void encd_Click(std::string_view DialogText, const std::filesystem::path& encPath);
@@ -34,12 +38,19 @@ inline constexpr std::chrono::milliseconds kEncSettleTime{5000};
 
 struct Utf16Export {
     bool aas = false;  // "append" mode: leave the body in Utf16Body for the caller
-    std::filesystem::path encPath = "enc";
-    std::function<void(std::chrono::milliseconds)> sleep;  // empty: sleep the calling thread
+    // The bytes are made in memory and written at once. The route through the temporary file
+    // `enc` and its settle time gives the same bytes; it is kept for the tests of that file.
+    bool throughEncFile = false;
+    std::filesystem::path encPath = "enc";                  // with throughEncFile
+    std::function<void(std::chrono::milliseconds)> sleep;  // with throughEncFile; empty: sleep the thread
 };
 
+// The bytes of the UTF-16 little-endian file of a font text: FF FE, then a low and a high byte
+// per character.
+std::string utf16FileBytes(std::string_view DialogText);
+
 // Leaves in `file9` a UTF-16 little-endian text with byte-order mark (or, with aas, only in
-// Utf16Body), going through the temporary file `enc`, which is deleted afterwards.
+// Utf16Body). Through `enc` when options.throughEncFile is set, which is deleted afterwards.
 bool ResultANSCIToUnicode(std::string_view DialogText, std::ostream& file9, std::string& Utf16Body,
                           const Utf16Export& options);
 

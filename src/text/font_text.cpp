@@ -42,6 +42,13 @@ bool readEscape(std::string_view font, std::size_t i, char32_t& cp) {
 
 }  // namespace
 
+std::optional<char32_t> escapeAt(std::string_view font, std::size_t i) {
+    char32_t cp = 0;
+    if (i >= font.size() || static_cast<unsigned char>(font[i]) != font::kEscape || !readEscape(font, i, cp))
+        return std::nullopt;
+    return cp;
+}
+
 FontText fromUtf8(std::string_view utf8, Utf8Report* report) {
     FontText out;
     out.reserve(utf8.size());

@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -179,6 +180,10 @@ std::string toUtf8(std::string_view font);
 
 // Appends the UTF-8 bytes of one code point.
 void appendUtf8(std::string& out, char32_t cp);
+
+// The character held by a well-formed escape that starts at font[i]; nothing when font[i] starts
+// no escape or a broken one.
+std::optional<char32_t> escapeAt(std::string_view font, std::size_t i);
 
 // Case-insensitive form of Armenian font text: every capital replaced by its small letter.
 FontText foldArmenianCase(std::string_view font);

@@ -106,11 +106,12 @@ TEST(ResultANSCIToUnicode, AppendModeLeavesTheBodyForTheCaller) {
     EXPECT_EQ(body, std::string("\xFF\xFE" "A\x00", 4));
 }
 
-TEST(ResultANSCIToUnicode, WaitsTheSettleTimeBetweenWritingAndReading) {
+TEST(ResultANSCIToUnicode, RouteThroughEncWaitsTheSettleTimeBetweenWritingAndReading) {
     test::TempFolder dir;
     std::ostringstream file9;
     std::string body;
     auto options = noWait(dir);
+    options.throughEncFile = true;
     std::chrono::milliseconds waited{0};
     options.sleep = [&](std::chrono::milliseconds ms) { waited = ms; };
     ResultANSCIToUnicode("x", file9, body, options);

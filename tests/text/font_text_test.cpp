@@ -4,16 +4,11 @@
 
 #include <random>
 
+#include "support/byte_string.h"
+
 using namespace vorlexa;
 using namespace vorlexa::literals;
-
-namespace {
-std::string bytes(std::initializer_list<int> codes) {
-    std::string s;
-    for (int c : codes) s += static_cast<char>(c);
-    return s;
-}
-}  // namespace
+using vorlexa::test::bytes;
 
 TEST(FontCodes, CapitalsAreEvenAndSmallLettersTheNextOddCode) {
     EXPECT_EQ("Ա"_ft, bytes({0xB2}));
@@ -117,4 +112,12 @@ TEST(Utf8Edge, RandomBytesNeverCrashAndRoundTripOnceDecoded) {
 TEST(FontCase, FoldingTurnsCapitalsIntoSmallLetters) {
     EXPECT_EQ(foldArmenianCase("ՏՈՒՆ Abc"_ft), "տուն Abc"_ft);
     EXPECT_EQ(foldArmenianCase("և"_ft), "և"_ft);
+}
+
+TEST(EscapeAt, ReadsTheCharacterOfAWholeEscapeOnly) {
+    const FontText text = fromUtf8("aЖ");
+    EXPECT_EQ(escapeAt(text, 1), std::optional<char32_t>(U'Ж'));
+    EXPECT_EQ(escapeAt(text, 0), std::nullopt);               // no escape starts at a letter
+    EXPECT_EQ(escapeAt(text.substr(0, 4), 1), std::nullopt);  // cut short
+    EXPECT_EQ(escapeAt(text, text.size()), std::nullopt);     // past the end
 }
