@@ -9,6 +9,7 @@
 #include <sstream>
 #include <system_error>
 
+#include "app/help_text.h"
 #include "app/settings_file.h"
 #include "engine/dictionary_store.h"
 #include "text/converters.h"
@@ -99,20 +100,11 @@ bool looksLikeUtf8(std::string_view bytes) {
 // a break at the very end starts no further line.
 FontText joinLines(std::string_view text) {
     FontText out;
-    std::size_t i = 0;
-    while (i < text.size()) {
-        std::size_t end = text.find_first_of("\r\n", i);
-        if (end == std::string_view::npos) end = text.size();
+    readLines(text, [&out](std::string_view line) {
         out += "\r\n";
-        out += text.substr(i, end - i);
-        i = end;
-        if (i < text.size() && text[i] == '\r') {
-            ++i;
-            if (i < text.size() && text[i] == '\n') ++i;
-        } else if (i < text.size()) {
-            ++i;
-        }
-    }
+        out += line;
+        return true;
+    });
     return out;
 }
 

@@ -25,22 +25,13 @@ constexpr std::string_view kAppTitleArmenian = "ԶԵՆԿԱ - Վորլեքսա";
 // result has the stop mark's length cut from its end.
 FontText readSection(std::string_view text, std::string_view stop, std::string_view dropAt) {
     FontText out;
-    std::size_t i = 0;
-    while (i < text.size()) {
-        std::size_t end = text.find_first_of("\r\n", i);
-        if (end == std::string_view::npos) end = text.size();
+    readLines(text, [&](std::string_view line) {
         out += "\r\n";
-        out += text.substr(i, end - i);
-        i = end;
-        if (i < text.size() && text[i] == '\r') {
-            ++i;
-            if (i < text.size() && text[i] == '\n') ++i;
-        } else if (i < text.size()) {
-            ++i;
-        }
-        if (std::string_view(out).ends_with(stop)) break;
+        out += line;
+        if (std::string_view(out).ends_with(stop)) return false;
         if (!dropAt.empty() && std::string_view(out).ends_with(dropAt)) out.clear();
-    }
+        return true;
+    });
     out.resize(out.size() >= stop.size() ? out.size() - stop.size() : 0);
     return out;
 }
