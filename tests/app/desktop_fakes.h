@@ -1,9 +1,7 @@
-// A main window without widgets and a desktop that starts nothing, for the tests of the dialog
-// and of the small menu commands: what would have been started, opened or put on the clipboard
-// is recorded.
+// A desktop that starts nothing, for the tests of the dialog and of the small menu commands:
+// what would have been started, opened or put on the clipboard is recorded.
 #pragma once
 
-#include <deque>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -13,47 +11,11 @@
 
 #include "app/app_fixture.h"
 #include "app/desktop.h"
+#include "app/fake_view.h"
 #include "app/main_form.h"
 #include "support/temp_folder.h"
 
 namespace vorlexa::test {
-
-class FakeView : public app::Form1View {
-public:
-    app::MainForm* form = nullptr;
-    FontText Text3;
-    FontText Text4;
-    app::TextSelection selection;
-    std::deque<int> answers;  // empty: every question is answered No
-    std::vector<Question> questions;
-    std::vector<Notice> notices;
-    int runs = 0;
-
-    int ask(const Question& q, app::Language) override {
-        questions.push_back(q);
-        if (answers.empty()) return kAnswerNo;
-        const int a = answers.front();
-        answers.pop_front();
-        return a;
-    }
-    void notify(const Notice& n, app::Language) override { notices.push_back(n); }
-    FontText text3() const override { return Text3; }
-    void setText3(const FontText& t) override {
-        Text3 = t;
-        ++runs;
-        if (form) form->Text3_Change(t);
-    }
-    FontText text4() const override { return Text4; }
-    void setText4(const FontText& t) override { Text4 = t; }
-    app::TextSelection text4Selection() const override { return selection; }
-    void selectText4(app::TextSelection s) override { selection = s; }
-    void progressChanged(int) override {}
-    void stateChanged() override {}
-    void minimise() override {}
-    void setBusy(bool) override {}
-
-    std::string lastNotice() const { return notices.empty() ? std::string() : toUtf8(notices.back().text.english); }
-};
 
 class FakeDesktop : public app::Desktop {
 public:

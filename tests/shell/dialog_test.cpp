@@ -15,7 +15,6 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
-#include <deque>
 #include <fstream>
 #include <memory>
 
@@ -27,28 +26,13 @@
 #include "shell/frm_about.h"
 #include "shell/printing.h"
 #include "shell/qt_text.h"
+#include "shell/scripted_prompter.h"
 #include "shell/shell_menus.h"
 
 using namespace vorlexa;
 using vorlexa::shell::Form1;
 
 namespace {
-
-class Answers : public shell::Prompter {
-public:
-    std::deque<int> answers;
-    QStringList asked;
-    QStringList notices;
-
-    int ask(QWidget*, const QString&, const QString& text, Buttons) override {
-        asked << text;
-        if (answers.empty()) return kAnswerNo;
-        const int a = answers.front();
-        answers.pop_front();
-        return a;
-    }
-    void notify(QWidget*, const QString&, const QString& text) override { notices << text; }
-};
 
 // Starts nothing: the addresses and programs asked for are kept.
 class RecordingDesktop : public app::Desktop {
@@ -89,7 +73,7 @@ class DialogTest : public QObject {
 private:
     QTemporaryDir dir_;
     std::filesystem::path root_;
-    Answers answers_;
+    test::ScriptedPrompter answers_;
     std::unique_ptr<Form1> window_;
 
     Form1& open() {
@@ -139,7 +123,7 @@ private slots:
         writeFile(root_ / "src/help/read.txt", test::kFixtureHelp);
         std::filesystem::create_directories(root_ / "docs");
         QVERIFY(buildDataFolder(root_ / "src", root_ / "data").ok());
-        answers_ = Answers{};
+        answers_ = test::ScriptedPrompter{};
     }
     void cleanup() {
         if (!window_) return;
@@ -176,7 +160,7 @@ private slots:
         clickOk();
         QCOMPARE(box("Text4")->toPlainText(), result);
         QCOMPARE(answers_.asked.size(), 1);
-        QCOMPARE(answers_.asked[0], QStringLiteral("Translate text?"));
+        QCOMPARE(answers_.asked[0], QStringLiteral("ZENKA - Vorlexa | Translate text?"));
         QVERIFY(!dialog().isVisible());
     }
 
@@ -265,7 +249,7 @@ private slots:
         answers_.answers = {kAnswerYes};
         trigger("He");
         QCOMPARE(box("Text4")->toPlainText(), QStringLiteral("*~*\nՕգնություն\n\n*~*\nHelp text\n"));
-        QVERIFY(answers_.asked.value(0).startsWith(QStringLiteral("HELP TOPICS will follow the text in right window.")));
+        QVERIFY(answers_.asked.value(0).startsWith(QStringLiteral("ATTENTION | HELP TOPICS will follow the text in right window.")));
     }
 
     void aboutShowsTheVersionInTheInterfaceLanguage() {

@@ -23,30 +23,14 @@
 #include "dictionary_tools/lexicon_compiler.h"
 #include "shell/form1.h"
 #include "shell/qt_text.h"
+#include "shell/scripted_prompter.h"
 
 using namespace vorlexa;
 using vorlexa::shell::Form1;
 
 namespace {
 
-// Answers the window's questions from a script; No once the script is used up.
-class ScriptedPrompter : public shell::Prompter {
-public:
-    std::deque<int> answers;
-    QStringList asked;
-    QStringList notices;
-    std::function<void()> whenAsked;  // looks at the window while the question stands
-
-    int ask(QWidget*, const QString& title, const QString& text, Buttons) override {
-        asked << title + QStringLiteral(" | ") + text;
-        if (whenAsked) whenAsked();
-        if (answers.empty()) return kAnswerNo;
-        const int a = answers.front();
-        answers.pop_front();
-        return a;
-    }
-    void notify(QWidget*, const QString&, const QString& text) override { notices << text; }
-};
+using vorlexa::test::ScriptedPrompter;
 
 void writeFile(const std::filesystem::path& path, const char* text) {
     std::filesystem::create_directories(path.parent_path());
