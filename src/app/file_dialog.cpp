@@ -284,6 +284,16 @@ void Dialog::OKButton_Click() {
 
 void Dialog::okSave(bool endAfter) {
     if (Text5.empty()) return;
+    std::error_code error;
+    if (fs::exists(fs::path(Text5), error)) {
+        // The design writes over a file without a word; a user of today expects to be asked.
+        Question q;
+        q.text = Wording{fromUtf8("The file already exists. Would you like to replace it?"),
+                         fromUtf8("Ֆայլն արդեն կա: Կկամենայի՞ք փոխարինել այն:")};
+        q.title = Wording{fromUtf8(kAppTitleEnglish), fromUtf8(kAppTitleArmenian)};
+        q.buttons = Buttons::YesNo;
+        if (form_.ask(q) != kAnswerYes) return;
+    }
     SavePath = Text5;
     std::ofstream file9(fs::path(SavePath), std::ios::binary | std::ios::trunc);
     File1 = listFiles(Dir1);

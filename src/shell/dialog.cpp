@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 
 #include "shell/form1.h"
+#include "shell/qt_desktop.h"
 #include "shell/qt_text.h"
 
 namespace vorlexa::shell {
@@ -192,9 +193,7 @@ void Dialog::sync() {
         Combo2->setCurrentText(captionText(d.Combo2));
         sample_->setFont(boxFont(d.Frame1));
         QPalette palette = sample_->palette();
-        const auto c = d.Frame1.color;
-        palette.setColor(QPalette::WindowText, QColor(static_cast<int>(c & 0xFF), static_cast<int>((c >> 8) & 0xFF),
-                                                      static_cast<int>((c >> 16) & 0xFF)));
+        palette.setColor(QPalette::WindowText, colorOfBgr(d.Frame1.color));
         sample_->setPalette(palette);
     }
     syncing_ = false;

@@ -19,13 +19,19 @@ void QtDesktop::setClipboardText(const FontText& text) { QGuiApplication::clipbo
 
 void QtDesktop::clearClipboard() { QGuiApplication::clipboard()->clear(); }
 
+QColor colorOfBgr(std::int64_t bgr) {
+    return QColor(static_cast<int>(bgr & 0xFF), static_cast<int>((bgr >> 8) & 0xFF), static_cast<int>((bgr >> 16) & 0xFF));
+}
+
+std::int64_t bgrOf(const QColor& color) {
+    return static_cast<std::int64_t>(color.red()) | (static_cast<std::int64_t>(color.green()) << 8) |
+           (static_cast<std::int64_t>(color.blue()) << 16);
+}
+
 std::optional<std::int64_t> QtDesktop::chooseColor(std::int64_t current) {
-    const QColor start(static_cast<int>(current & 0xFF), static_cast<int>((current >> 8) & 0xFF),
-                       static_cast<int>((current >> 16) & 0xFF));
-    const QColor chosen = QColorDialog::getColor(start, parent_);
+    const QColor chosen = QColorDialog::getColor(colorOfBgr(current), parent_);
     if (!chosen.isValid()) return std::nullopt;
-    return static_cast<std::int64_t>(chosen.red()) | (static_cast<std::int64_t>(chosen.green()) << 8) |
-           (static_cast<std::int64_t>(chosen.blue()) << 16);
+    return bgrOf(chosen);
 }
 
 bool QtDesktop::openUrl(const std::string& url) { return QDesktopServices::openUrl(QUrl(QString::fromStdString(url))); }

@@ -2,6 +2,7 @@
 // the default application of a file type, and other programs started without waiting.
 #pragma once
 
+#include <QColor>
 #include <functional>
 
 #include "app/desktop.h"
@@ -9,6 +10,10 @@
 class QWidget;
 
 namespace vorlexa::shell {
+
+// Colours as the settings keep them, 0x00BBGGRR, and back.
+QColor colorOfBgr(std::int64_t bgr);
+std::int64_t bgrOf(const QColor& color);
 
 class QtDesktop : public app::Desktop {
 public:

@@ -148,6 +148,21 @@ TEST(Dialog, SavingTwiceWritesOnlyTheSecondText) {
     EXPECT_EQ(bytesOf(f.docs / "two.txt"), std::string(kMark) + std::string("a\0", 2));
 }
 
+TEST(Dialog, SavingOverAFileAsksFirstAndNoKeepsIt) {
+    DialogFixture f;
+    writeBytes(f.docs / "old.txt", "old");
+    f.view.Text4 = "new";
+    f.saveAs("old.txt");
+    ASSERT_EQ(f.view.questions.size(), 1u);
+    EXPECT_EQ(toUtf8(f.view.questions[0].text.english), "The file already exists. Would you like to replace it?");
+    EXPECT_EQ(bytesOf(f.docs / "old.txt"), "old");
+    EXPECT_TRUE(f.dialog.visible);
+    f.view.answers = {kAnswerYes};
+    f.dialog.OKButton_Click();
+    EXPECT_EQ(bytesOf(f.docs / "old.txt"), std::string(kMark) + std::string("n\0e\0w\0", 6));
+    EXPECT_FALSE(f.dialog.visible);
+}
+
 TEST(Dialog, SaveWithAnEmptyPathDoesNothing) {
     DialogFixture f;
     f.view.Text4 = "text";
@@ -186,6 +201,7 @@ TEST(Dialog, SavedDocOpensInTheWordProcessorOnlyWhenTheChosenFileIsADoc) {
     EXPECT_TRUE(f.desktop.started.empty());
     f.dialog.Save_Click();
     f.choose("plain.doc");
+    f.view.answers = {kAnswerYes};  // replace the file
     f.dialog.OKButton_Click();
     ASSERT_EQ(f.desktop.started.size(), 1u);
     EXPECT_EQ(f.desktop.started[0].program, fs::path("/usr/bin/abiword"));
