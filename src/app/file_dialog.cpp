@@ -247,7 +247,8 @@ void Dialog::fnt_Click(std::vector<std::string> families) {
     List1 = std::move(families);
     const Text4Font& font = form_.text4Font();
     Combo1 = std::to_string(static_cast<int>(std::lround(font.size)));
-    Text5 = font.name;
+    // The design's face is shown by the name of the face that stands in for it.
+    Text5 = font.name == kDefaultFace ? defaultFaceShown : font.name;
     Frame1 = font;
     const std::vector<std::string> records = readSettingsRecords(form_.dataFolder());
     Combo2 = records.size() >= static_cast<std::size_t>(kRecordFontStyle)

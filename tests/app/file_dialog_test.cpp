@@ -456,6 +456,14 @@ TEST(Dialog, FontsShowTheFamiliesTheResultFontAndRecordEight) {
     EXPECT_EQ(f.dialog.Command1, "Use Default Font");
 }
 
+TEST(Dialog, TheDesignFaceIsShownByTheFaceThatStandsInForIt) {
+    DialogFixture f;
+    f.dialog.defaultFaceShown = "DejaVu Sans";
+    f.dialog.fnt_Click({});
+    EXPECT_EQ(f.dialog.Text5, "DejaVu Sans");
+    EXPECT_EQ(f.form->text4Font().name, "Arial Armenian");
+}
+
 TEST(Dialog, FontColorTakesTheChooserResultAndHidesTheSizes) {
     DialogFixture f;
     f.dialog.fnt_Click({});
