@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the Debian package from a build folder and checks that it holds the programs, the data,
-# the desktop file, the icon, the metainfo and the manual page. The package is made without
+# the desktop file, the icon, the metainfo and the manual pages. The package is made without
 # compression and without the library scan, which only cost time here.
 set -euo pipefail
 build=$1
@@ -16,7 +16,7 @@ for f in ./usr/bin/vorlexa ./usr/bin/vorlexa-cli \
          ./usr/share/vorlexa/data/uxxuma ./usr/share/vorlexa/data/uxxume ./usr/share/vorlexa/data/uxxumy \
          ./usr/share/vorlexa/data/read.txt \
          ./usr/share/applications/vorlexa.desktop ./usr/share/icons/hicolor/scalable/apps/vorlexa.svg \
-         ./usr/share/metainfo/org.example.vorlexa.metainfo.xml ./usr/share/man/man1/vorlexa-cli.1.gz; do
+         ./usr/share/metainfo/org.example.vorlexa.metainfo.xml ./usr/share/man/man1/vorlexa-cli.1.gz ./usr/share/man/man1/vorlexa.1.gz; do
   if ! grep -qxF "$f" <<<"$files"; then
     echo "missing from the package: $f"
     status=1
