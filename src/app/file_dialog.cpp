@@ -206,6 +206,12 @@ void Dialog::hide() {
     redraw();
 }
 
+FontText Dialog::translation() const {
+    // The translation goes by the clipboard: the engine's whole text when the box can't hold it.
+    const Engine* engine = form_.engine();
+    return engine && engine->OutputText.size() >= kResultBoxLimit ? engine->OutputText : view_.text4();
+}
+
 void Dialog::Open1_Click() {
     filesShown = true;
     fontsShown = false;
@@ -213,11 +219,7 @@ void Dialog::Open1_Click() {
 }
 
 void Dialog::Save_Click() {
-    // The translation goes by the clipboard: the engine's whole text when the box can't hold it.
-    const Engine* engine = form_.engine();
-    const FontText text =
-        engine && engine->OutputText.size() >= kResultBoxLimit ? engine->OutputText : view_.text4();
-    desktop_.setClipboardText(text);
+    desktop_.setClipboardText(translation());
     filesShown = true;
     fontsShown = false;
     Text5.clear();
@@ -231,10 +233,7 @@ void Dialog::Save_Click() {
 
 void Dialog::aas_Click() {
     desktop_.clearClipboard();
-    const Engine* engine = form_.engine();
-    const FontText text =
-        engine && engine->OutputText.size() >= kResultBoxLimit ? engine->OutputText : view_.text4();
-    desktop_.setClipboardText(text);
+    desktop_.setClipboardText(translation());
     form_.setChecked("aas", true);
     Open1_Click();
     show(kAddWindowCaption, kAddCaption);

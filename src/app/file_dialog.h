@@ -132,6 +132,7 @@ public:
 
 private:
     Language language() const { return form_.language(); }
+    FontText translation() const;
     void show(const DialogCaption& window, const DialogCaption& ok);
     void hide();
     void notify(std::string_view english, std::string_view armenian);
