@@ -1,6 +1,5 @@
 #include "shell/dialog.h"
 
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
 #include <QFileSystemModel>
@@ -42,11 +41,15 @@ void setItems(QListWidget* list, const std::vector<std::string>& items) {
 }  // namespace
 
 Dialog::Dialog(app::MainForm& form, app::Form1View& view, app::Desktop& desktop, QWidget* parent)
-    : QWidget(parent, Qt::Dialog), logic_(form, view, desktop) {
+    : QDialog(parent), logic_(form, view, desktop) {
     setObjectName(QStringLiteral("Dialog"));
     logic_.defaultFaceShown = kArmenianFace;
     logic_.changed = [this] { sync(); };
     buildControls();
+    // Escape and the window's close button are a Cancel.
+    connect(this, &QDialog::rejected, this, [this] {
+        if (logic_.visible) logic_.CancelButton_Click();
+    });
 }
 
 Dialog::~Dialog() { logic_.changed = nullptr; }
@@ -205,11 +208,6 @@ void Dialog::sync() {
     } else if (!d.visible && isVisible()) {
         hide();
     }
-}
-
-void Dialog::closeEvent(QCloseEvent* event) {
-    if (logic_.visible) logic_.CancelButton_Click();
-    event->accept();
 }
 
 }  // namespace vorlexa::shell

@@ -3,7 +3,7 @@
 // font mode List1, Combo1, Combo2, Command1 and the sample Frame1 take their place.
 #pragma once
 
-#include <QWidget>
+#include <QDialog>
 #include <memory>
 
 #include "app/file_dialog.h"
@@ -19,7 +19,7 @@ class QTreeView;
 
 namespace vorlexa::shell {
 
-class Dialog : public QWidget {
+class Dialog : public QDialog {
     Q_OBJECT
 
 public:
@@ -29,10 +29,6 @@ public:
     app::Dialog& logic() { return logic_; }
     // The window redrawn from the state of its logic.
     void sync();
-
-protected:
-    // Closing the window is a Cancel.
-    void closeEvent(QCloseEvent* event) override;
 
 private:
     void buildControls();

@@ -177,6 +177,11 @@ private slots:
         QTest::mouseClick(child<QPushButton>(&dialog(), "CancelButton"), Qt::LeftButton);
         QVERIFY(!dialog().isVisible());
         QCOMPARE(box("Text4")->toPlainText(), QStringLiteral("kept"));
+        dialog().logic().aas_Click();  // the menu item waits for a first translation
+        QTest::keyClick(&dialog(), Qt::Key_Escape);  // Escape is a Cancel too
+        QVERIFY(!dialog().isVisible());
+        QVERIFY(!window_->logic().checked("aas"));
+        QCOMPARE(box("Text4")->toPlainText(), QStringLiteral("kept"));
     }
 
     void yesAtExitOffersSaveAsAndSavingEndsTheProgram() {
