@@ -9,6 +9,7 @@ packages=(
   fonts-dejavu-core
   xvfb xauth
   aspell aspell-hy hunspell hunspell-en-us
+  poppler-utils appstream dpkg-dev
 )
 
 missing=()

@@ -12,15 +12,12 @@ constexpr std::size_t kMarkLength = 4;  // "null", cut from the end of the note
 
 }  // namespace
 
-FontText fontNoteFromHelpText(std::string_view text) {
-    FontText out;
-    int marks = 0;
+void readLines(std::string_view text, const std::function<bool(std::string_view line)>& each) {
     std::size_t i = 0;
     while (i < text.size()) {
         std::size_t end = text.find_first_of("\r\n", i);
         if (end == std::string_view::npos) end = text.size();
-        out += "\r\n";
-        out += text.substr(i, end - i);
+        const std::string_view line = text.substr(i, end - i);
         i = end;
         if (i < text.size() && text[i] == '\r') {
             ++i;
@@ -28,12 +25,23 @@ FontText fontNoteFromHelpText(std::string_view text) {
         } else if (i < text.size()) {
             ++i;
         }
+        if (!each(line)) return;
+    }
+}
+
+FontText fontNoteFromHelpText(std::string_view text) {
+    FontText out;
+    int marks = 0;
+    readLines(text, [&](std::string_view line) {
+        out += "\r\n";
+        out += line;
         const std::string_view sofar(out);
         if ((sofar.ends_with("null") || sofar.ends_with("null0")) && marks != kSectionsBeforeNote) {
             out.clear();
             ++marks;
         }
-    }
+        return true;
+    });
     if (out.size() < kMarkLength) return {};
     out.resize(out.size() - kMarkLength);
     return out;

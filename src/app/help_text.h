@@ -4,6 +4,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string_view>
 
@@ -12,6 +13,11 @@
 namespace vorlexa::app {
 
 inline constexpr std::string_view kHelpFileName = "read.txt";
+
+// Reads a text line by line as the design's line input does: a line ends at CR LF, CR or LF,
+// and a break at the very end starts no further line. `each` takes every line in turn and
+// returns false to stop.
+void readLines(std::string_view text, const std::function<bool(std::string_view line)>& each);
 
 // What AMN_Click puts into Text4 after a "No" to its question: the lines read one by one, each
 // after CR LF; whenever the text so far ends in a mark and fewer than two marks were counted,

@@ -539,6 +539,8 @@ void MainForm::hideConverter() {
 void MainForm::setSaveEnabled(bool on) {
     setEnabled("Save", on);
     setEnabled("aas", on);
+    // Nothing else enables printing, which starts disabled: it waits for a result like saving.
+    setEnabled("prnt", on);
     view_.stateChanged();
 }
 

@@ -5,7 +5,6 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QDir>
-#include <QFileDialog>
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -23,19 +22,15 @@
 #include <QTimer>
 #include <QTextCursor>
 #include <QVBoxLayout>
-#include <fstream>
 
 #include "app/add_word_panel.h"
 #include "shell/qt_text.h"
-#include "text/converters.h"
+#include "shell/shell_menus.h"
 
 namespace vorlexa::shell {
 
 namespace {
 
-// Below this length the result box itself is saved; a longer translation is taken whole from
-// the engine, since the box of the design held no more.
-constexpr std::size_t kBoxTextLimit = 64000;
 constexpr int kTagBoxWidth = 70;    // room for the five characters of a tag
 constexpr int kListHeight = 80;     // a few suggestions at a time
 constexpr int kPictureWidth = 34;   // the input-language pictures: two letters
@@ -96,7 +91,6 @@ Form1::Form1(QWidget* parent)
     setObjectName(QStringLiteral("Form1"));
     prompter_ = messageBoxes_.get();
     logic_ = std::make_unique<app::MainForm>(*this);
-    saveForExit = [this] { return saveAsUtf16(); };
 
     const std::pair<const char*, std::function<void()>> builtIn[] = {
         {"TS", [this] { logic_->TS_Click(); }},       {"ITR", [this] { logic_->ITR_Click(); }},
@@ -110,6 +104,11 @@ Form1::Form1(QWidget* parent)
     buildControls();
     buildMenus();
     stateChanged();
+    shellMenus_ = std::make_unique<ShellMenus>(*this);
+    saveForExit = [this] {
+        shellMenus_->saveAtExit();
+        return false;
+    };
 }
 
 Form1::~Form1() {
@@ -519,19 +518,10 @@ bool Form1::handleKey(QObject* box, QKeyEvent* key) {
     return true;
 }
 
-bool Form1::saveAsUtf16() {
-    const QString path = QFileDialog::getSaveFileName(this, captionText(logic_->caption("Save")), QDir::homePath(),
-                                                      QStringLiteral("*txt*;*doc*"));
-    if (path.isEmpty()) return false;
-    const Engine* engine = logic_->engine();
-    const FontText text = engine && engine->OutputText.size() >= kBoxTextLimit ? engine->OutputText : text4();
-    std::ofstream out(path.toStdString(), std::ios::binary | std::ios::trunc);
-    if (!out) return false;
-    std::string body;
-    Utf16Export options;
-    options.encPath = logic_->dataFolder() / "enc";
-    options.sleep = [](std::chrono::milliseconds) {};  // the file is read back by this process alone
-    return ResultANSCIToUnicode(text, out, body, options);
+void Form1::endProgram() {
+    closing_ = true;
+    logic_->finish();
+    close();
 }
 
 }  // namespace vorlexa::shell

@@ -29,6 +29,8 @@ class QWidget;
 
 namespace vorlexa::shell {
 
+class ShellMenus;
+
 // The message boxes. Tests give the window a prompter of their own, which answers from a script.
 class Prompter {
 public:
@@ -68,8 +70,13 @@ public:
     void registerCommand(const QString& item, std::function<void()> command);
     bool hasCommand(const QString& item) const;
 
-    // Offers "Save As" at exit; true once the text is saved. The save dialog replaces it.
+    // Offers "Save As" at exit; true once the text is saved. By default it opens the save
+    // dialog and answers false: the dialog ends the program once the text is saved.
     std::function<bool()> saveForExit;
+    // The program ends here and now, without the exit question (after Save As).
+    void endProgram();
+    // The dialog, printing, export, Help, About and Internet commands.
+    ShellMenus& shellMenus() { return *shellMenus_; }
 
     // ---- Form1View ------------------------------------------------------------------------
     int ask(const Question& question, app::Language language) override;
@@ -97,7 +104,6 @@ private:
     void buildControls();
     void buildMenus();
     void runCommand(const QString& item);
-    bool saveAsUtf16();
     bool handleKey(QObject* box, QKeyEvent* key);
     void panelEdited();
     void text3Changed();
@@ -130,6 +136,8 @@ private:
     QListWidget* List1 = nullptr;
     QPushButton* Command2 = nullptr;
     QPushButton* SkipWord = nullptr;
+
+    std::unique_ptr<ShellMenus> shellMenus_;  // last: it uses the logic and the controls above
 };
 
 // The font of a box from the design's description of it.

@@ -10,6 +10,7 @@
 
 #include "app/add_word_panel.h"
 #include "app/app_fixture.h"
+#include "app/fake_view.h"
 #include "app/settings_file.h"
 #include "support/temp_folder.h"
 
@@ -20,57 +21,7 @@ using vorlexa::test::TempFolder;
 
 namespace {
 
-// A window without widgets: the two boxes as strings, questions answered from a script.
-class FakeView : public Form1View {
-public:
-    MainForm* form = nullptr;
-    FontText Text3;
-    FontText Text4;
-    TextSelection selection;
-    std::deque<int> answers;  // empty: every question is answered No
-    std::vector<Question> questions;
-    std::vector<Notice> notices;
-    std::vector<int> drawnProgress;
-    int runs = 0;
-    bool minimised = false;
-
-    int ask(const Question& q, Language) override {
-        questions.push_back(q);
-        if (answers.empty()) return kAnswerNo;
-        const int a = answers.front();
-        answers.pop_front();
-        return a;
-    }
-    void notify(const Notice& n, Language) override { notices.push_back(n); }
-    FontText text3() const override { return Text3; }
-    void setText3(const FontText& t) override {
-        Text3 = t;
-        ++runs;
-        if (form) form->Text3_Change(t);
-    }
-    FontText text4() const override { return Text4; }
-    void setText4(const FontText& t) override { Text4 = t; }
-    TextSelection text4Selection() const override { return selection; }
-    void selectText4(TextSelection s) override { selection = s; }
-    void progressChanged(int percent) override { drawnProgress.push_back(percent); }
-    void stateChanged() override {}
-    void minimise() override {
-        minimised = true;
-        events.push_back("minimise");
-    }
-    void setBusy(bool) override {}
-    void restoreAfterUnattendedRun() override {
-        minimised = false;
-        events.push_back("restore");
-    }
-    std::vector<std::string> events;
-
-    std::vector<QuestionKind> kinds() const {
-        std::vector<QuestionKind> k;
-        for (const auto& q : questions) k.push_back(q.kind);
-        return k;
-    }
-};
+using vorlexa::test::FakeView;
 
 struct Fixture {
     TempFolder dir;
