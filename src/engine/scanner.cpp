@@ -6,6 +6,7 @@
 #include <array>
 
 #include "engine/engine.h"
+#include "engine/ligature_spelling.h"
 #include "engine/scanner.h"
 
 namespace vorlexa {
@@ -324,6 +325,7 @@ bool Engine::scanTurn() {
     if (!CurrentWord.empty()) {
         if (isRawWordDelimiter(static_cast<unsigned char>(CurrentWord.back()))) CurrentWord.pop_back();
         replaceAll(CurrentWord, "եւ"_ft, "և"_ft);
+        if (!englishSource) readLigatureSpelling(CurrentWord);
     }
     if (PendingEnding == "ից"_ft || PendingEnding == "ով"_ft) {
         qezanic();
