@@ -74,6 +74,15 @@ FontText typedSpelling(std::string_view source, std::int64_t scanPos, const Font
     return word;
 }
 
+// In Armenian text the postpositions and auxiliaries that follow go before the word group just
+// written; an unknown word is such a group as much as a translated one.
+void noteWordGroupWritten(Engine& e, std::size_t length) {
+    if (e.Check1 != 1) return;
+    e.CopyDepth = static_cast<std::int64_t>(length);
+    e.VerbBackOffset = e.CopyDepth + e.EnglishAuxBack;
+    e.EnglishAuxBack = 0;
+}
+
 }  // namespace
 
 // The not-found path drives the ending analysis: hayqer rewrites the word and looks it up, and a
@@ -173,6 +182,8 @@ void Engine::reportUnknownWord() {
     // An unknown word stands in the text, and in the questions, with the case it was typed in:
     // a name keeps its capital.
     RawWord = typedSpelling(SourceText, ScanPos, RawWord);
+    // The word stands whole, with the "ե" the analysis cut from it: no closing mark is owed.
+    if (UnicodeCount == "»"_ft) UnicodeCount.clear();
     ++stats.unknownOccurrences;
     if (stats.collectUnknownWords) ++stats.unknownWords[RawWord];
 
@@ -181,6 +192,7 @@ void Engine::reportUnknownWord() {
         OutputText += RawWord;
         OutputText += PendingEnding;
         OutputText += ArticleEnding;
+        noteWordGroupWritten(*this, RawWord.size() + PendingEnding.size() + ArticleEnding.size());
         CurrentWord.clear();
         QuestionMarkHold.clear();
         return;
@@ -234,6 +246,7 @@ void Engine::reportUnknownWord() {
     OutputText += RawWord;
     OutputText += PendingEnding;
     OutputText += ArticleEnding;
+    noteWordGroupWritten(*this, RawWord.size() + PendingEnding.size() + ArticleEnding.size());
     CurrentWord.clear();
     QuestionMarkHold.clear();
 }
