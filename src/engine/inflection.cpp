@@ -407,24 +407,31 @@ void Engine::inflect_G_to_S() {
     if (ImperativeFlag == 1 && oneOf(gloss, {"ես"_ft, "մենք"_ft, "նրանք"_ft})) ImperativeFlag.clear();
 
     // Q. Copula: the held auxiliary joins the next word; an auxiliary is held to the clause end.
-    if (tag1() == 'o') {
-        CurrentWord.clear();
-        PendingCopula = gloss;
-        gloss.clear();
-    } else if (ContractionFlag != 1 && !PendingCopula.empty()) {
-        if (VerbFormMark == "ած"_ft && (gloss.ends_with("ել"_ft) || gloss.ends_with("ալ"_ft))) gloss = dropLast(gloss, 2);
-        derocz();
-        PerfectFlag = 1;
-        if (tag1() != 'p') {
-            if (isVerb() && PendingCopula.starts_with("չ"_ft))
-                gloss = PendingCopula + " " + gloss + VerbFormMark;
-            else
-                gloss = gloss + VerbFormMark + ending + " " + PendingCopula;
-            PendingCopula.clear();
-            ArticleEnding.clear();
-            VerbFormMark.clear();
-            ending.clear();
-            CopulaUsedMark = 1;
+    // After "n't" and after a question word (ContractionFlag) neither happens: the auxiliary is
+    // written where it stands ("Where is the house?" as "Որտե՞ղ է տունը"). The joining comes
+    // first, so an auxiliary after a held one takes it along before it is held in turn.
+    if (ContractionFlag != 1) {
+        if (!PendingCopula.empty()) {
+            if (VerbFormMark == "ած"_ft && (gloss.ends_with("ել"_ft) || gloss.ends_with("ալ"_ft)))
+                gloss = dropLast(gloss, 2);
+            derocz();
+            PerfectFlag = 1;
+            if (tag1() != 'p') {
+                if (isVerb() && PendingCopula.starts_with("չ"_ft))
+                    gloss = PendingCopula + " " + gloss + VerbFormMark;
+                else
+                    gloss = gloss + VerbFormMark + ending + " " + PendingCopula;
+                PendingCopula.clear();
+                ArticleEnding.clear();
+                VerbFormMark.clear();
+                ending.clear();
+                CopulaUsedMark = 1;
+            }
+        }
+        if (tag1() == 'o') {
+            CurrentWord.clear();
+            PendingCopula = gloss;
+            gloss.clear();
         }
     }
 
