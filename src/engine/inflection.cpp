@@ -206,6 +206,8 @@ void Engine::inflect_G_to_S() {
         }
     } else if (gloss == "մաս"_ft) {
         // The skip lands on the last letter of the phrase; that letter then ends as an empty word.
+        // The design gives the skip of "of speeches" only; "of speech" takes the same rule, its
+        // length, so that its last letter too ends as an empty word and is not read as "h".
         if (nextIs("of speeches")) {
             gloss = "խոսքի մասեր"_ft;
             ScanPos += std::string_view("of speeches").size();
@@ -361,7 +363,9 @@ void Engine::inflect_G_to_S() {
             if (gloss == "եկել"_ft) gloss = "գալ"_ft;
             if (gloss.ends_with("ել"_ft) || gloss.ends_with("ալ"_ft)) gloss += "իս"_ft;
             // "while" was written as a word of its own; the participle takes its place, and its
-            // capital when it began the sentence.
+            // capital when it began the sentence. The design capitalises the participle every time;
+            // inside a sentence that would put a capital in the middle of the text, so it is done
+            // only where the cut text began with one.
             struct Cut {
                 std::string_view tail;
                 std::size_t length;
@@ -576,6 +580,10 @@ void Engine::placeNounAfterNoun() {
     static constexpr std::string_view kPostpositions[] = {" մեջ "_ft, " վրա "_ft,  " տակ "_ft,   " հետ "_ft,
                                                           "միջև "_ft, " համար "_ft, " շուրջ "_ft, " մասին "_ft,
                                                           "հետո "_ft, "առաջ "_ft,   " ընթացքում "_ft};
+    // The design also gives "ի" to a word in "թյան ", "վա " or "ու " before the postposition, behind
+    // length guards of 9, 11 and 14 characters. Those are genitives already ("ազատության",
+    // "օրվա", "մարդու"); one more "ի" would make forms the language does not have ("ազատությանի"),
+    // so the genitive is left as it stands.
     for (const auto postposition : kPostpositions) {
         if (!outputEndsWith(postposition)) continue;
         const std::string_view word = trimBlanks(postposition);
@@ -594,7 +602,8 @@ void Engine::placeNounAfterNoun() {
     }
     const bool afterPluralAuxiliary = outputEndsWith(" են "_ft) || outputEndsWith(" էին "_ft) ||
                                       outputEndsWith(" չեն "_ft) || outputEndsWith(" չէին "_ft);
-    // A final "ն" is the article only when the word before did not end in "ն" itself.
+    // A final "ն" is the article only when the word before did not end in "ն" itself. The design
+    // moves every final "ն", which cuts the last letter of a noun such as "սեղան" or "պատուհան".
     const bool previousEndedInN =
         NounEndingSeen.size() >= 2 && NounEndingSeen[NounEndingSeen.size() - 2] == '1';
     if (!afterPluralAuxiliary && (outputEndsWith("ը "_ft) || (outputEndsWith("ն "_ft) && !previousEndedInN))) {
