@@ -206,8 +206,8 @@ void Engine::inflect_G_to_S() {
         }
     } else if (gloss == "մաս"_ft) {
         // The skip lands on the last letter of the phrase; that letter then ends as an empty word.
-        // The design gives the skip of "of speeches" only; "of speech" takes the same rule, its
-        // length, so that its last letter too ends as an empty word and is not read as "h".
+        // The design gives the skip of "of speeches" only; "of speech" is skipped by its own
+        // length in the same way, so that the phrase is not read again as words.
         if (nextIs("of speeches")) {
             gloss = "խոսքի մասեր"_ft;
             ScanPos += std::string_view("of speeches").size();
