@@ -57,12 +57,13 @@ unsigned char foldedLetter(unsigned char c) {
 
 // The scanner folds capitals as it builds a word; the source text still holds the word as it was
 // typed. Returns the typed spelling of the word that ends just before ScanPos (or at it, when the
-// word is reported before the scanner passed its last letter), or the word itself when the text
-// there holds other letters (a rule replaced the word).
+// word is reported before the scanner passed its last letter, or before the "'s" it passed over),
+// or the word itself when the text there holds other letters (a rule replaced the word).
 FontText typedSpelling(std::string_view source, std::int64_t scanPos, const FontText& word) {
     const auto length = static_cast<std::int64_t>(word.size());
     if (length == 0) return word;
-    for (const std::int64_t last : {scanPos - 1, scanPos}) {
+    constexpr std::int64_t kPossessiveLength = 2;  // "'s", which the scanner steps over
+    for (const std::int64_t last : {scanPos - 1, scanPos, scanPos - 1 - kPossessiveLength}) {
         const std::int64_t first = last - length + 1;
         if (first < 1 || last > static_cast<std::int64_t>(source.size())) continue;
         const std::string_view typed = source.substr(static_cast<std::size_t>(first - 1), word.size());

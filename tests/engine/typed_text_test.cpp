@@ -28,6 +28,12 @@ TEST(TypedCase, UnknownWordInCapitalsAndInnerCapitalsStandAsTyped) {
     EXPECT_EQ(f.translate("ZORB McQuux big"), "ZORB McQuux մեծ ");
 }
 
+TEST(TypedCase, UnknownNameBeforeThePossessiveStandsAsTyped) {
+    EngineFixture f(kSmallLexicon);
+    // The "'s" gives the genitive ending, which a new unknown word loses with its question.
+    EXPECT_TRUE(f.translate("big Zorb's house").starts_with("մեծ Zorb "));
+}
+
 TEST(TypedCase, QuestionNamesTheWordAsTyped) {
     EngineFixture f(kSmallLexicon);
     f.host.answers = {kAnswerYes, kAnswerNo};
