@@ -250,6 +250,9 @@ void Engine::teqst_ArmenianToEnglish() {
         placeBack(OutputText, WordGloss, VerbBackOffset);
     } else if (WordTag.starts_with("cto")) {
         placeBack(OutputText, WordGloss, CopyDepth);
+        // The postposition now leads the word group, so an auxiliary that follows goes before it
+        // too ("Ես սեղանի վրա եմ" gives "I am on table", not "I on am table").
+        if (CopyDepth > 0) VerbBackOffset += static_cast<std::int64_t>(WordGloss.size()) + 1;
     } else {
         OutputText += WordGloss;
     }

@@ -206,6 +206,8 @@ void Engine::inflect_G_to_S() {
         }
     } else if (gloss == "մաս"_ft) {
         // The skip lands on the last letter of the phrase; that letter then ends as an empty word.
+        // The design gives the skip of "of speeches" only; "of speech" is skipped by its own
+        // length in the same way, so that the phrase is not read again as words.
         if (nextIs("of speeches")) {
             gloss = "խոսքի մասեր"_ft;
             ScanPos += std::string_view("of speeches").size();
@@ -361,7 +363,9 @@ void Engine::inflect_G_to_S() {
             if (gloss == "եկել"_ft) gloss = "գալ"_ft;
             if (gloss.ends_with("ել"_ft) || gloss.ends_with("ալ"_ft)) gloss += "իս"_ft;
             // "while" was written as a word of its own; the participle takes its place, and its
-            // capital when it began the sentence.
+            // capital when it began the sentence. The design capitalises the participle every time;
+            // inside a sentence that would put a capital in the middle of the text, so it is done
+            // only where the cut text began with one.
             struct Cut {
                 std::string_view tail;
                 std::size_t length;
@@ -407,24 +411,31 @@ void Engine::inflect_G_to_S() {
     if (ImperativeFlag == 1 && oneOf(gloss, {"ես"_ft, "մենք"_ft, "նրանք"_ft})) ImperativeFlag.clear();
 
     // Q. Copula: the held auxiliary joins the next word; an auxiliary is held to the clause end.
-    if (tag1() == 'o') {
-        CurrentWord.clear();
-        PendingCopula = gloss;
-        gloss.clear();
-    } else if (ContractionFlag != 1 && !PendingCopula.empty()) {
-        if (VerbFormMark == "ած"_ft && (gloss.ends_with("ել"_ft) || gloss.ends_with("ալ"_ft))) gloss = dropLast(gloss, 2);
-        derocz();
-        PerfectFlag = 1;
-        if (tag1() != 'p') {
-            if (isVerb() && PendingCopula.starts_with("չ"_ft))
-                gloss = PendingCopula + " " + gloss + VerbFormMark;
-            else
-                gloss = gloss + VerbFormMark + ending + " " + PendingCopula;
-            PendingCopula.clear();
-            ArticleEnding.clear();
-            VerbFormMark.clear();
-            ending.clear();
-            CopulaUsedMark = 1;
+    // After "n't" and after a question word (ContractionFlag) neither happens: the auxiliary is
+    // written where it stands ("Where is the house?" as "Որտե՞ղ է տունը"). The joining comes
+    // first, so an auxiliary after a held one takes it along before it is held in turn.
+    if (ContractionFlag != 1) {
+        if (!PendingCopula.empty()) {
+            if (VerbFormMark == "ած"_ft && (gloss.ends_with("ել"_ft) || gloss.ends_with("ալ"_ft)))
+                gloss = dropLast(gloss, 2);
+            derocz();
+            PerfectFlag = 1;
+            if (tag1() != 'p') {
+                if (isVerb() && PendingCopula.starts_with("չ"_ft))
+                    gloss = PendingCopula + " " + gloss + VerbFormMark;
+                else
+                    gloss = gloss + VerbFormMark + ending + " " + PendingCopula;
+                PendingCopula.clear();
+                ArticleEnding.clear();
+                VerbFormMark.clear();
+                ending.clear();
+                CopulaUsedMark = 1;
+            }
+        }
+        if (tag1() == 'o') {
+            CurrentWord.clear();
+            PendingCopula = gloss;
+            gloss.clear();
         }
     }
 
@@ -569,6 +580,10 @@ void Engine::placeNounAfterNoun() {
     static constexpr std::string_view kPostpositions[] = {" մեջ "_ft, " վրա "_ft,  " տակ "_ft,   " հետ "_ft,
                                                           "միջև "_ft, " համար "_ft, " շուրջ "_ft, " մասին "_ft,
                                                           "հետո "_ft, "առաջ "_ft,   " ընթացքում "_ft};
+    // The design also gives "ի" to a word in "թյան ", "վա " or "ու " before the postposition, behind
+    // length guards of 9, 11 and 14 characters. Those are genitives already ("ազատության",
+    // "օրվա", "մարդու"); one more "ի" would make forms the language does not have ("ազատությանի"),
+    // so the genitive is left as it stands.
     for (const auto postposition : kPostpositions) {
         if (!outputEndsWith(postposition)) continue;
         const std::string_view word = trimBlanks(postposition);
@@ -587,7 +602,8 @@ void Engine::placeNounAfterNoun() {
     }
     const bool afterPluralAuxiliary = outputEndsWith(" են "_ft) || outputEndsWith(" էին "_ft) ||
                                       outputEndsWith(" չեն "_ft) || outputEndsWith(" չէին "_ft);
-    // A final "ն" is the article only when the word before did not end in "ն" itself.
+    // A final "ն" is the article only when the word before did not end in "ն" itself. The design
+    // moves every final "ն", which cuts the last letter of a noun such as "սեղան" or "պատուհան".
     const bool previousEndedInN =
         NounEndingSeen.size() >= 2 && NounEndingSeen[NounEndingSeen.size() - 2] == '1';
     if (!afterPluralAuxiliary && (outputEndsWith("ը "_ft) || (outputEndsWith("ն "_ft) && !previousEndedInN))) {

@@ -108,7 +108,8 @@ void Engine::emitWordT() {
         PendingEnding.clear();
         HeldConjunction.clear();
     } else if (tag1 == 'v') {
-        // Fixes of verb forms only: nouns in "-արան" (library, university) keep their ending.
+        // The design applies these fixes to every gloss; here they touch verbs only, because a noun
+        // in "-արան" ("գրադարան", "համալսարան") would otherwise lose its ending ("գրադեցին").
         replaceTail(WordGloss, "արան"_ft, "արեցին"_ft) || replaceTail(WordGloss, "արաք"_ft, "արեցիք"_ft) ||
             (PersonCode == 1 && replaceTail(WordGloss, "արա"_ft, "արեցի"_ft)) ||
             (PersonCode == 3 && replaceTail(WordGloss, "արանք"_ft, "արեցինք"_ft));

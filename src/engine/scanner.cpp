@@ -6,6 +6,7 @@
 #include <array>
 
 #include "engine/engine.h"
+#include "engine/ligature_spelling.h"
 #include "engine/scanner.h"
 
 namespace vorlexa {
@@ -232,6 +233,17 @@ bool Engine::scanTurn() {
         CurrentWord = "shall";
     }
 
+    // "'m" and "'re" stand for "am" and "are": the word before is looked up, and the copula
+    // follows as a word of its own ("I'm right" as "I am right").
+    if (englishSource && (atIs("'m ") || atIs("\x92m ") || atIs("'re ") || atIs("\x92re "))) {
+        const bool am = atIs("'m ") || atIs("\x92m ");
+        if (!CurrentWord.empty()) CurrentWord.pop_back();
+        ScanPos += am ? 2 : 3;
+        teqst_dblclick();
+        OutputText += ' ';
+        CurrentWord = am ? "am" : "are";
+    }
+
     // The dictionary's key is 20 characters wide: a longer word goes to the ending analysis.
     if (CurrentWord.size() > static_cast<std::size_t>(kKeyWidth)) {
         ++stats.longWordAnalyses;
@@ -328,6 +340,7 @@ bool Engine::scanTurn() {
     if (!CurrentWord.empty()) {
         if (isRawWordDelimiter(static_cast<unsigned char>(CurrentWord.back()))) CurrentWord.pop_back();
         replaceAll(CurrentWord, "եւ"_ft, "և"_ft);
+        if (!englishSource) readLigatureSpelling(CurrentWord);
     }
     if (PendingEnding == "ից"_ft || PendingEnding == "ով"_ft) {
         qezanic();
@@ -434,7 +447,11 @@ void Engine::wordEndTail(int c) {
         (outputEndsWith("ա"_ft) || outputEndsWith("ո"_ft))) {
         OutputText += "յ"_ft;
     }
-    if (PendingPlural == 1 && ArticleEnding.empty()) {
+    // The object ending goes on the word just written, never on the empty word between two signs
+    // ("music, really": the comma is followed by a blank, and nothing more is written there).
+    const auto last = OutputText.empty() ? 0 : static_cast<unsigned char>(OutputText.back());
+    const bool afterWord = font::isArmenianLetter(last) || last == font::kLigature;
+    if (PendingPlural == 1 && ArticleEnding.empty() && afterWord) {
         PendingEnding = "ին"_ft;
         if (outputEndsWith("ը"_ft)) OutputText.pop_back();
     }

@@ -49,6 +49,41 @@ Question perWordQuestion(const FontText& word, bool spellMode) {
     return q;
 }
 
+// One letter as the look-up sees it: Latin and Armenian capitals fold to their small letters.
+unsigned char foldedLetter(unsigned char c) {
+    if (c >= 'A' && c <= 'Z') return static_cast<unsigned char>(c + ('a' - 'A'));
+    return font::toSmall(c);
+}
+
+// The scanner folds capitals as it builds a word; the source text still holds the word as it was
+// typed. Returns the typed spelling of the word that ends just before ScanPos (or at it, when the
+// word is reported before the scanner passed its last letter, or before the "'s" it passed over),
+// or the word itself when the text there holds other letters (a rule replaced the word).
+FontText typedSpelling(std::string_view source, std::int64_t scanPos, const FontText& word) {
+    const auto length = static_cast<std::int64_t>(word.size());
+    if (length == 0) return word;
+    constexpr std::int64_t kPossessiveLength = 2;  // "'s", which the scanner steps over
+    for (const std::int64_t last : {scanPos - 1, scanPos, scanPos - 1 - kPossessiveLength}) {
+        const std::int64_t first = last - length + 1;
+        if (first < 1 || last > static_cast<std::int64_t>(source.size())) continue;
+        const std::string_view typed = source.substr(static_cast<std::size_t>(first - 1), word.size());
+        bool same = true;
+        for (std::size_t i = 0; i < word.size() && same; ++i)
+            same = foldedLetter(static_cast<unsigned char>(typed[i])) == foldedLetter(static_cast<unsigned char>(word[i]));
+        if (same) return FontText(typed);
+    }
+    return word;
+}
+
+// In Armenian text the postpositions and auxiliaries that follow go before the word group just
+// written; an unknown word is such a group as much as a translated one.
+void noteWordGroupWritten(Engine& e, std::size_t length) {
+    if (e.Check1 != 1) return;
+    e.CopyDepth = static_cast<std::int64_t>(length);
+    e.VerbBackOffset = e.CopyDepth + e.EnglishAuxBack;
+    e.EnglishAuxBack = 0;
+}
+
 }  // namespace
 
 // The not-found path drives the ending analysis: hayqer rewrites the word and looks it up, and a
@@ -145,6 +180,11 @@ bool Engine::retryUnknownWord() {
 }
 
 void Engine::reportUnknownWord() {
+    // An unknown word stands in the text, and in the questions, with the case it was typed in:
+    // a name keeps its capital.
+    RawWord = typedSpelling(SourceText, ScanPos, RawWord);
+    // The word stands whole, with the "ե" the analysis cut from it: no closing mark is owed.
+    if (UnicodeCount == "»"_ft) UnicodeCount.clear();
     ++stats.unknownOccurrences;
     if (stats.collectUnknownWords) ++stats.unknownWords[RawWord];
 
@@ -153,6 +193,7 @@ void Engine::reportUnknownWord() {
         OutputText += RawWord;
         OutputText += PendingEnding;
         OutputText += ArticleEnding;
+        noteWordGroupWritten(*this, RawWord.size() + PendingEnding.size() + ArticleEnding.size());
         CurrentWord.clear();
         QuestionMarkHold.clear();
         return;
@@ -206,6 +247,7 @@ void Engine::reportUnknownWord() {
     OutputText += RawWord;
     OutputText += PendingEnding;
     OutputText += ArticleEnding;
+    noteWordGroupWritten(*this, RawWord.size() + PendingEnding.size() + ArticleEnding.size());
     CurrentWord.clear();
     QuestionMarkHold.clear();
 }

@@ -133,7 +133,9 @@ std::vector<TriggerRow> selectRows() {
                       e.OutputText.resize(e.OutputText.size() >= 4 ? e.OutputText.size() - 4 : 0);
                   },
                   0, F),
-        selectRow({"ը"_ft, "ի"_ft}, {}, word(""), 0, R),
+        // The article and the case ending written apart from their word ("ԱԳՆ-ն", "2018-ի") say nothing
+        // of their own in English.
+        selectRow({"ը"_ft, "ի"_ft, "ն"_ft}, {}, word(""), 0, R),
         selectRow({"ընդունակ"_ft}, {}, [](Engine& e) { e.AbleFlag = 1; }, 0, F),
         selectRow({"թ"_ft}, at("."), does({word("թ."_ft), emit()}), 1, F),
         selectRow({"թել"_ft}, either(next("Ավիվ"_ft), next("ավիվ"_ft)), word("թել-ավիվ"_ft), 0, F),

@@ -62,6 +62,8 @@ bool atSentenceStart(const Engine& e, std::string_view lineBreak) {
 std::vector<TriggerRow> selectRows() {
     return {
         selectRow({"http", "www", "https"}, {}, passThrough, 0, R),
+        // A title's full stop belongs to the title and does not end the sentence: "Mr. Brown".
+        selectRow({"mr", "mrs", "ms", "dr", "prof"}, at("."), does({}), 1, F),
         selectRow({"about"}, {}, does({classChain(" "), ending("ի շուրջ"_ft), word("")}), 1, R),
         selectRow({"above"}, next("all"), word("moreover"), 4, F),
         selectRow({"absent"}, next("minded"), word("forgetful"), 7, F),

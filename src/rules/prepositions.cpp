@@ -473,7 +473,9 @@ void AAnProcedure(Engine& e) {
         e.CurrentWord.clear();
         e.ScanPos += 1;
     } else {
-        // "one-" (the indefinite "մի") is read again from the delimiter and looked up.
+        // "one-" (the indefinite "մի") is read again from the delimiter and looked up. The design
+        // skips the delimiter here as well; the rescan would then put the next word's letters
+        // onto "one-" ("one-book"), and neither the article nor the noun would be found.
         setWord(e, "one-");
     }
 }

@@ -22,6 +22,8 @@ void appendUtf8(std::string& out, char32_t cp) {
 
 namespace {
 
+constexpr char32_t kOneDotLeader = 0x2024;
+
 void appendEscape(FontText& out, char32_t cp) {
     out += static_cast<char>(font::kEscape);
     for (int shift = 4 * (font::kEscapeDigits - 1); shift >= 0; shift -= 4)
@@ -61,7 +63,8 @@ FontText fromUtf8(std::string_view utf8, Utf8Report* report) {
             if (report->invalidSequences == 0) report->firstInvalidOffset = at;
             ++report->invalidSequences;
         }
-        const int code = font::codeOf(cp);
+        // Many Armenian texts type the one-dot leader for the full stop "։", which is read as ":".
+        const int code = cp == kOneDotLeader ? ':' : font::codeOf(cp);
         if (code >= 0)
             out += static_cast<char>(code);
         else

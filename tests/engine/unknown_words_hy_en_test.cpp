@@ -24,10 +24,10 @@ TEST(UnknownArmenianWords, AWordTheAnalysisCannotPlaceIsAskedAboutAsTyped) {
     f.translate("Զբժից տուն:");
     ASSERT_EQ(f.host.questions.size(), 2u);
     EXPECT_EQ(f.host.questions[1].kind, QuestionKind::AddUnknownWord);
-    EXPECT_EQ(toUtf8(f.host.questions[1].subject), "զբժից");
-    EXPECT_EQ(f.host.questions[1].text.english, "No Word '" + fromUtf8("զբժից") + "' In Dictionary.\r\nShall We Add it Now?");
-    // "No": the prefix the analysis wrote stays, and the word stands as the scanner read it.
-    EXPECT_EQ(toUtf8(f.host.result), "From զբժից house. ");
+    EXPECT_EQ(toUtf8(f.host.questions[1].subject), "Զբժից");
+    EXPECT_EQ(f.host.questions[1].text.english, "No Word '" + fromUtf8("Զբժից") + "' In Dictionary.\r\nShall We Add it Now?");
+    // "No": the prefix the analysis wrote stays, and the word stands as it was typed.
+    EXPECT_EQ(toUtf8(f.host.result), "From Զբժից house. ");
 }
 
 TEST(UnknownArmenianWords, ListedUnderTheNonTranslatedTerms) {
