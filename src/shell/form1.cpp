@@ -23,6 +23,8 @@
 #include <QVBoxLayout>
 #include <fstream>
 
+#include "shell/dictionary_tools_shell.h"
+#include "shell/phonetic_input.h"
 #include "shell/qt_text.h"
 #include "text/converters.h"
 
@@ -103,6 +105,7 @@ Form1::Form1(QWidget* parent)
 
     buildControls();
     buildMenus();
+    installDictionaryTools(*this);
     stateChanged();
 }
 
@@ -424,20 +427,7 @@ bool Form1::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool Form1::handleKey(QObject* box, QKeyEvent* key) {
-    const QString typed = key->text();
-    if (typed.size() != 1 || (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)))
-        return false;
-    const char16_t c = typed.at(0).unicode();
-    if (c < 0x20 || c >= 0x80) return false;
-    const unsigned char mapped = logic_->typedKey(static_cast<unsigned char>(c));
-    if (mapped == c) return false;
-    const QString letter(QChar(static_cast<char16_t>(font::unicodeOf(mapped))));
-    if (auto* edit = qobject_cast<QPlainTextEdit*>(box)) {
-        edit->insertPlainText(letter);
-    } else if (auto* line = qobject_cast<QLineEdit*>(box)) {
-        line->insert(letter);
-    }
-    return true;
+    return insertPhonetic(box, key, [this](unsigned char c) { return logic_->typedKey(c); });
 }
 
 bool Form1::saveAsUtf16() {

@@ -135,7 +135,7 @@ private slots:
 
     void itemsWhoseWorkIsNotBuiltAreShownDisabled() {
         Form1& w = open();
-        for (const char* name : {"Open1", "CWD", "Corr", "Fnd", "Replacce", "uta", "cvtae", "fnt", "Chat", "Ha", "abo"})
+        for (const char* name : {"Open1", "CWD", "Fnd", "Replacce", "uta", "cvtae", "fnt", "Chat", "Ha", "abo"})
             QVERIFY2(!action(name)->isEnabled(), name);
         for (const char* name : {"TS", "ITR", "IMPV", "SUT", "EF", "EdtTr", "AMN", "Engo", "TA", "exit1"})
             QVERIFY2(action(name)->isEnabled(), name);
