@@ -21,34 +21,15 @@
 #include "shell/form2.h"
 #include "shell/form4.h"
 #include "shell/qt_text.h"
+#include "shell/shell_test_support.h"
 
 using namespace vorlexa;
 using vorlexa::shell::Form1;
+using vorlexa::shell::test::ScriptedPrompter;
+using vorlexa::shell::test::u;
+using vorlexa::shell::test::writeFile;
 
 namespace {
-
-class ScriptedPrompter : public shell::Prompter {
-public:
-    std::deque<int> answers;
-    QStringList asked;
-    QStringList notices;
-
-    int ask(QWidget*, const QString& title, const QString& text, Buttons) override {
-        asked << title + QStringLiteral(" | ") + text;
-        if (answers.empty()) return kAnswerNo;
-        const int a = answers.front();
-        answers.pop_front();
-        return a;
-    }
-    void notify(QWidget*, const QString&, const QString& text) override { notices << text; }
-};
-
-void writeFile(const std::filesystem::path& path, const char* text) {
-    std::filesystem::create_directories(path.parent_path());
-    std::ofstream(path, std::ios::binary) << text;
-}
-
-QString u(const char* utf8) { return QString::fromUtf8(utf8); }
 
 const char* const kEnglish =
     "house\tտուն\tn\n"
