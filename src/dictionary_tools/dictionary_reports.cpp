@@ -34,11 +34,10 @@ bool startsWith(std::string_view s, std::string_view prefix) { return s.substr(0
 // A record the report passes over: a freed slot or a blank gap of the file.
 bool passedOver(std::string_view raw) { return mid(raw, 1, 4) == "wwww" || mid(raw, 1, 4) == "    "; }
 
-// Key and the item List1 gets for it: English "key<TAB>tail", Armenian "sort key<TAB>tail".
+// The item List1 gets for a record: English "key<TAB>tail", Armenian by ArmAlphabeticSort.
 std::string listItem(std::string_view raw, bool armenian) {
-    const std::string_view key = trimBlanks(mid(raw, 1, kKeyWidth));
-    const std::string tail(mid(raw, kKeyWidth + 1, kReportTailWidth));
-    return (armenian ? armenianSortKey(key) : std::string(key)) + '\t' + tail;
+    if (armenian) return ArmAlphabeticSort(raw);
+    return std::string(trimBlanks(mid(raw, 1, kKeyWidth))) + '\t' + std::string(mid(raw, kKeyWidth + 1, kReportTailWidth));
 }
 
 bool tagQualifies(std::string_view raw, std::string_view tag) {
@@ -60,6 +59,11 @@ std::string armenianSortKey(std::string_view word) {
         key += threeDigits(written);
     }
     return key;
+}
+
+std::string ArmAlphabeticSort(std::string_view record) {
+    return armenianSortKey(trimBlanks(mid(record, 1, kKeyWidth))) + '\t' +
+           std::string(mid(record, kKeyWidth + 1, kReportTailWidth));
 }
 
 FontText decodeSortKey(std::string_view digits) {
@@ -98,7 +102,7 @@ ReportItems bucketReport(const RecordFile& dictionary, Direction direction, std:
     return report;
 }
 
-ReportItems partOfSpeechReport(std::string_view flat, bool armenian, std::string_view box, std::string_view tag) {
+ReportItems PartOfSpeech(std::string_view flat, bool armenian, std::string_view box, std::string_view tag) {
     ReportItems report;
     report.armenian = armenian;
     for (std::size_t at = 0; at + kRecordLength <= flat.size(); at += kRecordLength) {
@@ -161,7 +165,7 @@ ReportResult writeDictionaryReport(const DictionaryStore& store, const std::file
         case ReportKind::PartOfSpeech: {
             const bool isArmenian = text1.empty();
             box = isArmenian ? text2 : text1;
-            items = partOfSpeechReport(isArmenian ? armenian : english, isArmenian, box, text3);
+            items = PartOfSpeech(isArmenian ? armenian : english, isArmenian, box, text3);
             break;
         }
         case ReportKind::EnglishBucket:

@@ -26,6 +26,9 @@ inline constexpr std::string_view kEveryWord = "*";
 // "252" and 252 "254", which puts "և" after "ք" and before "օ"; otherwise the code order is the
 // alphabet order, capital before small.
 std::string armenianSortKey(std::string_view word);
+// The item of an Armenian record in the sorted list: the sort key of its key, a tab, and the
+// last 25 characters of the record.
+std::string ArmAlphabeticSort(std::string_view record);
 // The word back from its key, three digits at a time ("000" gives code 0).
 FontText decodeSortKey(std::string_view digits);
 
@@ -47,8 +50,7 @@ ReportItems bucketReport(const RecordFile& dictionary, Direction direction, std:
 
 // Every record of a flat list (Stringea or Stringae) whose tag begins with `tag` and whose key
 // begins with `box`, or any key when the box holds "*".
-ReportItems partOfSpeechReport(std::string_view flatRecords, bool armenian, std::string_view box,
-                               std::string_view tag);
+ReportItems PartOfSpeech(std::string_view flatRecords, bool armenian, std::string_view box, std::string_view tag);
 
 // The numbered lines of the list file, sorted. A box of exactly two letters adds the count line.
 std::vector<FontText> AlphabeticSort(const ReportItems& report, std::string_view box);

@@ -124,9 +124,10 @@ WordCorrector::WordCorrector(DictionaryStore& store, CorrectorView& view) : stor
 
 void WordCorrector::Corr_Click(bool armenianInterface) {
     armenian_ = armenianInterface;
-    if (!armenian_) return;
+    // The window opens with the captions of its design, in Armenian where the interface is.
     for (const Form2Caption& c : kCaptions)
-        if (!c.armenian.empty()) setCaption(c.control, std::string(c.armenian));
+        setCaption(c.control, std::string(armenian_ && !c.armenian.empty() ? c.armenian : c.english));
+    if (check1_) setCaption("Command3", std::string(kSearchAll[armenian_ ? 1 : 0]));
 }
 
 const std::string& WordCorrector::caption(std::string_view control) const {

@@ -31,6 +31,8 @@ DictionaryToolsShell::DictionaryToolsShell(Form1& window) : QObject(&window), wi
 }
 
 void DictionaryToolsShell::Corr_Click() {
+    // A closed window opens afresh, as the design loads it; an open one comes to the front.
+    if (form2_ && !form2_->isVisible()) delete form2_.data();
     if (!form2_) form2_ = new Form2(window_.logic(), window_.prompter(), &window_);
     form2_->open(window_.logic().language() == app::Language::Armenian);
 }

@@ -101,6 +101,15 @@ TEST_F(WordCorrectorTest, ArmenianInterfaceCaptionsAndTheirSearchCaptions) {
     EXPECT_EQ(corrector->caption("Command3"), "Փնտրել");
 }
 
+TEST_F(WordCorrectorTest, EnglishInterfaceBringsTheDesignCaptionsBack) {
+    corrector->Corr_Click(true);
+    corrector->Corr_Click(false);
+    EXPECT_EQ(corrector->caption("Form2"), "Dictionary");
+    EXPECT_EQ(corrector->caption("Command1"), "Delete");
+    EXPECT_EQ(corrector->caption("Command4"), "Chng");
+    EXPECT_EQ(corrector->caption("Command2"), "Next");
+}
+
 TEST_F(WordCorrectorTest, WordInTheOtherAlphabetAsksToChangeTheLanguage) {
     corrector->Text1 = fontOf("տուն");
     corrector->Command3_Click();
