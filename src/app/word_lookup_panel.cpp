@@ -9,7 +9,8 @@ namespace {
 DoubleClickResult Txt34_dblclick(MainForm& form, const FontText& selection) {
     const LookupResult r = vorlexa::Txt34_dblclick(
         form.store(), readStringsFile(form.dataFolder(), Direction::EnglishToArmenian),
-        readStringsFile(form.dataFolder(), Direction::ArmenianToEnglish), selection, hayqer1Strip());
+        readStringsFile(form.dataFolder(), Direction::ArmenianToEnglish), selection,
+        hayqer1Strip());
     DoubleClickResult shown;
     if (r.word.empty()) return shown;
     WordPanel& panel = form.panel();

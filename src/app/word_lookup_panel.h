@@ -11,8 +11,8 @@
 namespace vorlexa::app {
 
 struct DoubleClickResult {
-    FontText toolTip;           // for the box clicked; empty when nothing was looked up
-    bool runReplace = false;    // Replacce_click is to run: the find and replace box opens
+    FontText toolTip;         // for the box clicked; empty when nothing was looked up
+    bool runReplace = false;  // Replacce_click is to run: the find and replace box opens
 };
 
 // Text3_DblClick: the selection of the source box is looked up (Txt34_dblclick).

@@ -67,7 +67,8 @@ int search(const GlobalOptions& options, const EditArgs& a) {
     if (!word) return kExitUsage;
     const auto store = openStore(options);
     if (!store) return kExitFailure;
-    const Direction d = hasArmenianLetter(*word) ? Direction::ArmenianToEnglish : Direction::EnglishToArmenian;
+    const Direction d =
+        hasArmenianLetter(*word) ? Direction::ArmenianToEnglish : Direction::EnglishToArmenian;
     const ColumnMatches found = findInColumn(store->source(d), d, *word, columnOf(d, *word), a.all);
     if (found.records.empty()) {
         printError("\"" + a.word + "\" not found in the dictionaries");
@@ -104,11 +105,12 @@ int change(const GlobalOptions& options, const EditArgs& a, bool deleting) {
         if (c == kTagBlank) c = ' ';
     // A script gets an error where the window would cut a field at its width.
     bool fits = true;
-    for (const auto& [text, width, what] : {std::tuple{*key, kKeyWidth, "KEY"}, std::tuple{*gloss, kGlossWidth, "GLOSS"},
-                                            std::tuple{*tag, kTagWidth, "TAG"}}) {
+    for (const auto& [text, width, what] :
+         {std::tuple{*key, kKeyWidth, "KEY"}, std::tuple{*gloss, kGlossWidth, "GLOSS"},
+          std::tuple{*tag, kTagWidth, "TAG"}}) {
         if (static_cast<int>(text.size()) <= width) continue;
-        printError(std::string(what) + " has " + std::to_string(text.size()) + " characters; the record holds " +
-                   std::to_string(width));
+        printError(std::string(what) + " has " + std::to_string(text.size()) +
+                   " characters; the record holds " + std::to_string(width));
         fits = false;
     }
     if (!fits) return kExitFailure;
@@ -136,9 +138,9 @@ int report(const GlobalOptions& options, const EditArgs& a) {
     const auto store = openStore(options);
     if (!store) return kExitFailure;
     const bool armenian = hasArmenianLetter(*word);
-    const ReportResult r = writeDictionaryReport(*store, store->folder(), flatRecords(store->english()),
-                                                 flatRecords(store->armenian()), armenian ? "" : *word,
-                                                 armenian ? *word : "", *tag);
+    const ReportResult r = writeDictionaryReport(
+        *store, store->folder(), flatRecords(store->english()), flatRecords(store->armenian()),
+        armenian ? "" : *word, armenian ? *word : "", *tag);
     if (!r.error.empty()) {
         printError(r.error);
         return kExitFailure;
@@ -152,8 +154,8 @@ int synonyms(const GlobalOptions& options, const EditArgs& a) {
     if (!word) return kExitUsage;
     const auto store = openStore(options);
     if (!store) return kExitFailure;
-    const LookupResult r = Txt34_dblclick(*store, flatRecords(store->english()), flatRecords(store->armenian()),
-                                          *word, hayqer1Strip());
+    const LookupResult r = Txt34_dblclick(*store, flatRecords(store->english()),
+                                          flatRecords(store->armenian()), *word, hayqer1Strip());
     if (!r.found) {
         printError("\"" + a.word + "\": " + std::string(kNoResults));
         return kExitFailure;
@@ -173,13 +175,16 @@ int stats(const GlobalOptions& options) {
         DictRecord r;
         for (std::int64_t rec = 1; rec <= file.recordCount(); ++rec) {
             r.raw = file.read(rec);
-            if (r.isFreed()) ++freed;
-            else if (r.isNull()) ++ends;
-            else if (carriesGloss(r.raw)) ++words;
+            if (r.isFreed())
+                ++freed;
+            else if (r.isNull())
+                ++ends;
+            else if (carriesGloss(r.raw))
+                ++words;
         }
-        std::cout << file.path().filename().string() << ": " << words << " words, " << freed << " freed slots, "
-                  << ends << " column ends, " << file.recordCount() << " records, " << strideOf(d)
-                  << " columns\n";
+        std::cout << file.path().filename().string() << ": " << words << " words, " << freed
+                  << " freed slots, " << ends << " column ends, " << file.recordCount()
+                  << " records, " << strideOf(d) << " columns\n";
     }
     return kExitOk;
 }
@@ -195,7 +200,8 @@ int addPair(const GlobalOptions& options, const EditArgs& a) {
     }
     for (const auto& [text, what] : {std::pair{*find, "FIND"}, std::pair{*replace, "REPLACE"}}) {
         if (static_cast<int>(text.size()) > kExpressionTextWidth) {
-            printError(std::string(what) + " is longer than " + std::to_string(kExpressionTextWidth) + " characters");
+            printError(std::string(what) + " is longer than " +
+                       std::to_string(kExpressionTextWidth) + " characters");
             ok = false;
         }
     }
@@ -221,7 +227,8 @@ void addDictEditCommands(CLI::App& dict, const GlobalOptions& options, int& resu
     se->add_flag("--all", args->all, "every meaning, not only the first");
     se->callback([args, &options, &result] { result = search(options, *args); });
 
-    CLI::App* ch = dict.add_subcommand("change", "Rewrite a record in place (no reverse entry is touched)");
+    CLI::App* ch =
+        dict.add_subcommand("change", "Rewrite a record in place (no reverse entry is touched)");
     ch->add_option("WHICH", args->which, "e-a or a-e")->required();
     ch->add_option("RECORD", args->record, "record number, as search prints it")->required();
     ch->add_option("KEY", args->key, "the word")->required();
@@ -229,31 +236,37 @@ void addDictEditCommands(CLI::App& dict, const GlobalOptions& options, int& resu
     ch->add_option("TAG", args->tag, "grammar tag; '_' stands for a blank")->required();
     ch->callback([args, &options, &result] { result = change(options, *args, false); });
 
-    CLI::App* de = dict.add_subcommand("delete", "Free a record; its slot is reused by the next word added");
+    CLI::App* de =
+        dict.add_subcommand("delete", "Free a record; its slot is reused by the next word added");
     de->add_option("WHICH", args->which, "e-a or a-e")->required();
     de->add_option("RECORD", args->record, "record number, as search prints it")->required();
     de->callback([args, &options, &result] { result = change(options, *args, true); });
 
-    CLI::App* re = dict.add_subcommand("report", "Write the sorted word list of a beginning or a part of speech");
+    CLI::App* re = dict.add_subcommand(
+        "report", "Write the sorted word list of a beginning or a part of speech");
     re->add_option("WORD", args->word,
                    "two letters or more: the words of its column that begin so; one letter or '*': "
                    "every word so beginning (default '*')");
     re->add_option("--tag", args->tag, "only words whose tag begins with this letter");
     re->callback([args, &options, &result] { result = report(options, *args); });
 
-    CLI::App* sy = dict.add_subcommand("synonyms", "Print a word's translations and the words sharing its gloss");
+    CLI::App* sy = dict.add_subcommand(
+        "synonyms", "Print a word's translations and the words sharing its gloss");
     sy->add_option("WORD", args->word, "English or Armenian word")->required();
     sy->callback([args, &options, &result] { result = synonyms(options, *args); });
 
-    CLI::App* st = dict.add_subcommand("stats", "Count the words, freed slots and records of each dictionary");
+    CLI::App* st =
+        dict.add_subcommand("stats", "Count the words, freed slots and records of each dictionary");
     st->callback([&options, &result] { result = stats(options); });
 }
 
 void addExpressionCommands(CLI::App& app, const GlobalOptions& options, int& result) {
     auto args = std::make_shared<EditArgs>();
-    CLI::App* ex = app.add_subcommand("expressions", "Work on the expression lists applied at the end of a run");
+    CLI::App* ex = app.add_subcommand("expressions",
+                                      "Work on the expression lists applied at the end of a run");
     ex->require_subcommand(1);
-    CLI::App* ad = ex->add_subcommand("add", "Add a pair: FIND becomes REPLACE in every later translation");
+    CLI::App* ad =
+        ex->add_subcommand("add", "Add a pair: FIND becomes REPLACE in every later translation");
     ad->add_option("FIND", args->find, "the text to find")->required();
     ad->add_option("REPLACE", args->replace, "what it becomes")->required();
     ad->callback([args, &options, &result] { result = addPair(options, *args); });

@@ -9,8 +9,9 @@ using namespace literals;
 
 namespace {
 
-constexpr int kSortDigits = 3;          // digits per character of a sort key
-constexpr unsigned kFirstKeptCode = 100;  // codes below are written "000": three digits hold no less
+constexpr int kSortDigits = 3;  // digits per character of a sort key
+constexpr unsigned kFirstKeptCode =
+    100;  // codes below are written "000": three digits hold no less
 constexpr unsigned char kMovedOffset = 2;  // each moved code takes the next even code up
 
 // The three codes the sort key moves, with the code each is written as.
@@ -29,15 +30,20 @@ std::string threeDigits(unsigned value) {
     return std::string(static_cast<std::size_t>(kSortDigits) - s.size(), '0') + s;
 }
 
-bool startsWith(std::string_view s, std::string_view prefix) { return s.substr(0, prefix.size()) == prefix; }
+bool startsWith(std::string_view s, std::string_view prefix) {
+    return s.substr(0, prefix.size()) == prefix;
+}
 
 // A record the report passes over: a freed slot or a blank gap of the file.
-bool passedOver(std::string_view raw) { return mid(raw, 1, 4) == "wwww" || mid(raw, 1, 4) == "    "; }
+bool passedOver(std::string_view raw) {
+    return mid(raw, 1, 4) == "wwww" || mid(raw, 1, 4) == "    ";
+}
 
 // The item List1 gets for a record: English "key<TAB>tail", Armenian by ArmAlphabeticSort.
 std::string listItem(std::string_view raw, bool armenian) {
     if (armenian) return ArmAlphabeticSort(raw);
-    return std::string(trimBlanks(mid(raw, 1, kKeyWidth))) + '\t' + std::string(mid(raw, kKeyWidth + 1, kReportTailWidth));
+    return std::string(trimBlanks(mid(raw, 1, kKeyWidth))) + '\t' +
+           std::string(mid(raw, kKeyWidth + 1, kReportTailWidth));
 }
 
 bool tagQualifies(std::string_view raw, std::string_view tag) {
@@ -70,7 +76,8 @@ FontText decodeSortKey(std::string_view digits) {
     FontText word;
     for (std::size_t at = 0; at + kSortDigits <= digits.size(); at += kSortDigits) {
         unsigned value = 0;
-        for (std::size_t i = at; i < at + kSortDigits; ++i) value = value * 10 + static_cast<unsigned>(digits[i] - '0');
+        for (std::size_t i = at; i < at + kSortDigits; ++i)
+            value = value * 10 + static_cast<unsigned>(digits[i] - '0');
         unsigned char code = static_cast<unsigned char>(value);
         for (const MovedCode& m : kMovedCodes)
             if (m.written == value) code = m.code;
@@ -92,24 +99,28 @@ ReportItems bucketReport(const RecordFile& dictionary, Direction direction, std:
     ReportItems report;
     report.armenian = direction == Direction::ArmenianToEnglish;
     const int stride = strideOf(direction);
-    for (std::int64_t rec = columnOf(direction, word); rec <= dictionary.recordCountExact(); rec += stride) {
+    for (std::int64_t rec = columnOf(direction, word); rec <= dictionary.recordCountExact();
+         rec += stride) {
         const std::string raw = dictionary.read(rec);
         if (passedOver(raw)) continue;
         if (mid(raw, 1, 4) == kNullKey) break;
         ++report.recordCount;
-        if (startsWith(raw, word) && tagQualifies(raw, tag)) report.items.push_back(listItem(raw, report.armenian));
+        if (startsWith(raw, word) && tagQualifies(raw, tag))
+            report.items.push_back(listItem(raw, report.armenian));
     }
     return report;
 }
 
-ReportItems PartOfSpeech(std::string_view flat, bool armenian, std::string_view box, std::string_view tag) {
+ReportItems PartOfSpeech(std::string_view flat, bool armenian, std::string_view box,
+                         std::string_view tag) {
     ReportItems report;
     report.armenian = armenian;
     for (std::size_t at = 0; at + kRecordLength <= flat.size(); at += kRecordLength) {
         const std::string_view raw = flat.substr(at, kRecordLength);
         ++report.recordCount;
         const bool wordQualifies = box == kEveryWord || startsWith(raw, box);
-        if (wordQualifies && tagQualifies(raw, tag)) report.items.push_back(listItem(raw, armenian));
+        if (wordQualifies && tagQualifies(raw, tag))
+            report.items.push_back(listItem(raw, armenian));
     }
     return report;
 }
@@ -127,8 +138,8 @@ std::vector<FontText> AlphabeticSort(const ReportItems& report, std::string_view
             continue;
         }
         const std::size_t tab = sorted[i].find('\t');
-        lines.push_back(number + '\t' + decodeSortKey(std::string_view(sorted[i]).substr(0, tab)) + "\t\t" +
-                        sorted[i].substr(tab + 1));
+        lines.push_back(number + '\t' + decodeSortKey(std::string_view(sorted[i]).substr(0, tab)) +
+                        "\t\t" + sorted[i].substr(tab + 1));
     }
     // Two letters are a whole column of the English grid: the count of its records closes it.
     constexpr std::size_t kCountedBoxLength = 2;
@@ -146,14 +157,16 @@ std::string flatRecords(const RecordFile& dictionary) {
 }
 
 std::string readStringsFile(const std::filesystem::path& folder, Direction direction) {
-    const auto name = direction == Direction::EnglishToArmenian ? kEnglishStringsName : kArmenianStringsName;
+    const auto name =
+        direction == Direction::EnglishToArmenian ? kEnglishStringsName : kArmenianStringsName;
     std::ifstream in(folder / name, std::ios::binary);
     if (!in) return {};
     return std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
 }
 
-ReportResult writeDictionaryReport(const DictionaryStore& store, const std::filesystem::path& folder,
-                                   std::string_view english, std::string_view armenian, std::string_view text1,
+ReportResult writeDictionaryReport(const DictionaryStore& store,
+                                   const std::filesystem::path& folder, std::string_view english,
+                                   std::string_view armenian, std::string_view text1,
                                    std::string_view text2, std::string_view text3) {
     ReportResult result;
     result.kind = chooseReport(text1, text2);

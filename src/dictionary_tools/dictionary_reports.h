@@ -50,7 +50,8 @@ ReportItems bucketReport(const RecordFile& dictionary, Direction direction, std:
 
 // Every record of a flat list (Stringea or Stringae) whose tag begins with `tag` and whose key
 // begins with `box`, or any key when the box holds "*".
-ReportItems PartOfSpeech(std::string_view flatRecords, bool armenian, std::string_view box, std::string_view tag);
+ReportItems PartOfSpeech(std::string_view flatRecords, bool armenian, std::string_view box,
+                         std::string_view tag);
 
 // The numbered lines of the list file, sorted. A box of exactly two letters adds the count line.
 std::vector<FontText> AlphabeticSort(const ReportItems& report, std::string_view box);
@@ -70,8 +71,9 @@ struct ReportResult {
 
 // Command7: chooses the report from the boxes, gathers, sorts and writes the list file into
 // `folder`. `english` and `armenian` are the flat lists a listing by part of speech reads.
-ReportResult writeDictionaryReport(const DictionaryStore& store, const std::filesystem::path& folder,
-                                   std::string_view english, std::string_view armenian, std::string_view text1,
+ReportResult writeDictionaryReport(const DictionaryStore& store,
+                                   const std::filesystem::path& folder, std::string_view english,
+                                   std::string_view armenian, std::string_view text1,
                                    std::string_view text2, std::string_view text3);
 
 }  // namespace vorlexa

@@ -7,10 +7,12 @@ namespace vorlexa {
 
 namespace {
 // The code of a box's first character; an empty box counts as code 0.
-unsigned firstCode(std::string_view text) { return text.empty() ? 0 : static_cast<unsigned char>(text[0]); }
+unsigned firstCode(std::string_view text) {
+    return text.empty() ? 0 : static_cast<unsigned char>(text[0]);
+}
 
-constexpr unsigned kBelowCode = 255;      // the text to find: any code of the font but the last
-constexpr unsigned kAboveCode = 167;      // the text to put: an Armenian letter, or the ligature
+constexpr unsigned kBelowCode = 255;  // the text to find: any code of the font but the last
+constexpr unsigned kAboveCode = 167;  // the text to put: an Armenian letter, or the ligature
 
 std::string half(std::string_view text) {
     std::string h = "\"" + std::string(text) + "\"";
@@ -20,14 +22,16 @@ std::string half(std::string_view text) {
 }  // namespace
 
 std::string_view CorrectionFile(std::string_view text1, std::string_view text2) {
-    return firstCode(text1) < kBelowCode && firstCode(text2) > kAboveCode ? kArmenianPairsName : kEnglishPairsName;
+    return firstCode(text1) < kBelowCode && firstCode(text2) > kAboveCode ? kArmenianPairsName
+                                                                          : kEnglishPairsName;
 }
 
 std::string expressionRecord(std::string_view find, std::string_view replace) {
     return half(find) + half(replace);
 }
 
-ExpressionResult addExpression(const std::filesystem::path& folder, std::string_view find, std::string_view replace) {
+ExpressionResult addExpression(const std::filesystem::path& folder, std::string_view find,
+                               std::string_view replace) {
     ExpressionResult result;
     result.file = folder / CorrectionFile(find, replace);
     RecordFile list;

@@ -33,10 +33,11 @@ struct ExpressionResult {
 
 // Writes the pair at the list's "null" record (or after its last record) and "null" after it.
 // A pair that stands already is added again; the earlier one is applied first.
-ExpressionResult addExpression(const std::filesystem::path& folder, std::string_view find, std::string_view replace);
+ExpressionResult addExpression(const std::filesystem::path& folder, std::string_view find,
+                               std::string_view replace);
 
 class ExpressionEditor {
-public:
+  public:
     explicit ExpressionEditor(std::filesystem::path folder) : folder_(std::move(folder)) {}
 
     // The window opens with the text selected in the result box.
@@ -47,7 +48,7 @@ public:
     FontText Text1;
     FontText Text2;
 
-private:
+  private:
     std::filesystem::path folder_;
 };
 

@@ -41,7 +41,8 @@ constexpr std::string_view kSearchAll[2] = {"Search for all Meanings", "Փնտր
 constexpr std::string_view kResources[2] = {"Word Resources", "Բառապաշար"};
 constexpr std::string_view kResourcesOk[2] = {"OK", "Շատ լավ"};
 constexpr std::string_view kReport[2] = {"Dictionary Report", "Հաշվետվություն"};
-constexpr std::string_view kSearchToolTip[2] = {"Hot key - 'ENTER'.", "Գործարկող ստեղնը 'ENTER'-ն է:"};
+constexpr std::string_view kSearchToolTip[2] = {"Hot key - 'ENTER'.",
+                                                "Գործարկող ստեղնը 'ENTER'-ն է:"};
 
 const Wording kAttention{"Attention!!!", FontText("Ուշադրություն"_ft)};
 
@@ -80,12 +81,14 @@ std::optional<RecordPosition> parsePosition(std::string_view text4) {
     }
     const std::string_view digits = trimBlanks(text4.substr(prefix.size()));
     const auto [end, ec] = std::from_chars(digits.data(), digits.data() + digits.size(), p.record);
-    if (ec != std::errc() || end != digits.data() + digits.size() || p.record < 1) return std::nullopt;
+    if (ec != std::errc() || end != digits.data() + digits.size() || p.record < 1)
+        return std::nullopt;
     return p;
 }
 
 std::string positionText(const RecordPosition& position) {
-    return std::string(position.direction == Direction::EnglishToArmenian ? kEnglishPosition : kArmenianPosition) +
+    return std::string(position.direction == Direction::EnglishToArmenian ? kEnglishPosition
+                                                                          : kArmenianPosition) +
            std::to_string(position.record);
 }
 
@@ -101,8 +104,8 @@ int formSkizba(std::string_view word) {
     return skizbaColumn(word);
 }
 
-ColumnMatches findInColumn(const RecordFile& file, Direction direction, std::string_view word, std::int64_t start,
-                           bool all) {
+ColumnMatches findInColumn(const RecordFile& file, Direction direction, std::string_view word,
+                           std::int64_t start, bool all) {
     ColumnMatches m;
     DictRecord r;
     m.end = start;
@@ -116,17 +119,20 @@ ColumnMatches findInColumn(const RecordFile& file, Direction direction, std::str
     return m;
 }
 
-WordCorrector::WordCorrector(DictionaryStore& store, CorrectorView& view) : store_(store), view_(view) {
+WordCorrector::WordCorrector(DictionaryStore& store, CorrectorView& view)
+    : store_(store), view_(view) {
     folder = store.folder();
     flatList = [this](Direction d) { return readStringsFile(folder, d); };
-    for (const Form2Caption& c : kCaptions) controls_[std::string(c.control)] = {std::string(c.english), true};
+    for (const Form2Caption& c : kCaptions)
+        controls_[std::string(c.control)] = {std::string(c.english), true};
 }
 
 void WordCorrector::Corr_Click(bool armenianInterface) {
     armenian_ = armenianInterface;
     // The window opens with the captions of its design, in Armenian where the interface is.
     for (const Form2Caption& c : kCaptions)
-        setCaption(c.control, std::string(armenian_ && !c.armenian.empty() ? c.armenian : c.english));
+        setCaption(c.control,
+                   std::string(armenian_ && !c.armenian.empty() ? c.armenian : c.english));
     if (check1_) setCaption("Command3", std::string(kSearchAll[armenian_ ? 1 : 0]));
 }
 
@@ -141,7 +147,8 @@ bool WordCorrector::enabled(std::string_view control) const {
 }
 
 const std::string& WordCorrector::command3ToolTip() const {
-    static const std::string tips[2] = {std::string(kSearchToolTip[0]), std::string(kSearchToolTip[1])};
+    static const std::string tips[2] = {std::string(kSearchToolTip[0]),
+                                        std::string(kSearchToolTip[1])};
     return tips[armenian_ ? 1 : 0];
 }
 
@@ -169,9 +176,12 @@ void WordCorrector::Check1_Click(bool on) {
     }
 }
 
-// ---- Search and stepping ---------------------------------------------------------------------------
+// ---- Search and stepping
+// ---------------------------------------------------------------------------
 
-void WordCorrector::Command3_Click() { search(false); }
+void WordCorrector::Command3_Click() {
+    search(false);
+}
 
 void WordCorrector::Text1_DblClick() {
     Text2.clear();
@@ -189,7 +199,9 @@ bool WordCorrector::Text2_Enter() {
     return true;
 }
 
-unsigned char WordCorrector::Text2_KeyPress(unsigned char key) { return app::kanci(key, app::KeyTable::Dictionary); }
+unsigned char WordCorrector::Text2_KeyPress(unsigned char key) {
+    return app::kanci(key, app::KeyTable::Dictionary);
+}
 
 void WordCorrector::search(bool fromDoubleClick) {
     Text3.clear();
@@ -202,7 +214,10 @@ void WordCorrector::search(bool fromDoubleClick) {
     std::int64_t start = d == Direction::EnglishToArmenian ? sskizbe(word) : formSkizba(word);
     if (fromDoubleClick && current_) start = current_->record;
     if (start == 0) {
-        view_.notify({{"Change the Language Settings, Please!", FontText("Խնդրեմ, փոխել լեզուները:"_ft)}, kAttention}, armenian_);
+        view_.notify(
+            {{"Change the Language Settings, Please!", FontText("Խնդրեմ, փոխել լեզուները:"_ft)},
+             kAttention},
+            armenian_);
         return;
     }
 
@@ -224,7 +239,8 @@ void WordCorrector::search(bool fromDoubleClick) {
     }
     const bool matched = !found.records.empty();
     if (!matched)
-        view_.notify({{"Word '" + word + "' Not Found in Dictionaries.", FontText("«"_ft) + word + FontText("» բառը չկա բառարաններում:"_ft)},
+        view_.notify({{"Word '" + word + "' Not Found in Dictionaries.",
+                       FontText("«"_ft) + word + FontText("» բառը չկա բառարաններում:"_ft)},
                       kAttention},
                      armenian_);
     setLabel4(matched ? current_->record : found.end, d);
@@ -272,31 +288,40 @@ void WordCorrector::Command5_Click() {
     step(-1);
 }
 
-// ---- Change and delete -----------------------------------------------------------------------------
+// ---- Change and delete
+// -----------------------------------------------------------------------------
 
 bool WordCorrector::edit(bool deleting) {
     if (Text4.empty() || Text1.empty() || Text2.empty()) return false;
     const auto at = parsePosition(Text4);
     if (!at) {
-        view_.notify({{"'" + Text4 + "' names no record.", FontText("«"_ft) + Text4 + FontText("» գրառում չկա:"_ft)}, kAttention}, armenian_);
+        view_.notify({{"'" + Text4 + "' names no record.",
+                       FontText("«"_ft) + Text4 + FontText("» գրառում չկա:"_ft)},
+                      kAttention},
+                     armenian_);
         return false;
     }
     const Wording text = deleting ? deleteQuestion(at->direction) : changeQuestion(at->direction);
-    if (view_.ask({QuestionKind::Generic, text, kAttention, Buttons::YesNo, {}}, armenian_) != kAnswerYes) return false;
+    if (view_.ask({QuestionKind::Generic, text, kAttention, Buttons::YesNo, {}}, armenian_) !=
+        kAnswerYes)
+        return false;
     std::string error;
     bool ok = false;
     if (deleting) {
         ok = deleteRecord(store_, at->direction, at->record, &error);
     } else {
         const bool english = at->direction == Direction::EnglishToArmenian;
-        const DictRecord r = DictRecord::make(english ? Text1 : Text2, english ? Text2 : Text1, Text3);
+        const DictRecord r =
+            DictRecord::make(english ? Text1 : Text2, english ? Text2 : Text1, Text3);
         ok = changeRecord(store_, at->direction, at->record, r, &error);
     }
     if (!ok) view_.notify({{error, fromUtf8(error)}, kAttention}, armenian_);
     return ok;
 }
 
-void WordCorrector::Command4_Click() { edit(false); }
+void WordCorrector::Command4_Click() {
+    edit(false);
+}
 
 void WordCorrector::Command1_Click() {
     if (!edit(true)) return;
@@ -305,7 +330,8 @@ void WordCorrector::Command1_Click() {
     Text3.clear();
 }
 
-// ---- Resources and reports -------------------------------------------------------------------------
+// ---- Resources and reports
+// -------------------------------------------------------------------------
 
 void WordCorrector::Command6_Click() {
     const int lang = armenian_ ? 1 : 0;

@@ -24,7 +24,7 @@ namespace vorlexa {
 
 // What the window shows for the Word Corrector: questions, notices and a written list file.
 class CorrectorView {
-public:
+  public:
     virtual ~CorrectorView() = default;
     // Returns kAnswerYes or kAnswerNo; the wording is chosen by `armenian`.
     virtual int ask(const Question& question, bool armenian) = 0;
@@ -57,21 +57,21 @@ struct ColumnMatches {
     std::vector<std::int64_t> records;
     std::int64_t end = 0;  // the record the walk stopped at
 };
-ColumnMatches findInColumn(const RecordFile& file, Direction direction, std::string_view word, std::int64_t start,
-                           bool all);
+ColumnMatches findInColumn(const RecordFile& file, Direction direction, std::string_view word,
+                           std::int64_t start, bool all);
 
 class WordCorrector {
-public:
+  public:
     WordCorrector(DictionaryStore& store, CorrectorView& view);
 
     // The menu item Corr opened the window: the captions of the interface language.
     void Corr_Click(bool armenianInterface);
 
     // ---- Controls ----------------------------------------------------------------------------
-    FontText Text1;    // English
-    FontText Text2;    // Armenian
-    FontText Text3;    // tag
-    std::string Text4; // "e-a 123"
+    FontText Text1;     // English
+    FontText Text2;     // Armenian
+    FontText Text3;     // tag
+    std::string Text4;  // "e-a 123"
     std::string Label4;
     bool check1() const { return check1_; }
     int text3MaxLength() const { return check1_ ? kAllMeaningsTagLength : kTagWidth; }
@@ -103,7 +103,7 @@ public:
     // The folder the list files are written to.
     std::filesystem::path folder;
 
-private:
+  private:
     void search(bool fromDoubleClick);
     void show(const RecordPosition& position);
     void step(int sign);

@@ -16,14 +16,16 @@ struct Translations {
 };
 
 // Walks the column of the word down to its end record.
-Translations findTranslations(const DictionaryStore& store, Direction direction, const FontText& word) {
+Translations findTranslations(const DictionaryStore& store, Direction direction,
+                              const FontText& word) {
     Translations t;
     t.shown = word;
     const RecordFile& file = store.source(direction);
     const int stride = strideOf(direction);
     const FontText withE = word + "e";
     DictRecord r;
-    for (std::int64_t rec = columnOf(direction, word); rec <= file.recordCountExact(); rec += stride) {
+    for (std::int64_t rec = columnOf(direction, word); rec <= file.recordCountExact();
+         rec += stride) {
         r.raw = file.read(rec);
         if (r.isNull()) break;
         if (r.key() == word) {
@@ -37,8 +39,8 @@ Translations findTranslations(const DictionaryStore& store, Direction direction,
     return t;
 }
 
-LookupResult lookUp(const DictionaryStore& store, Direction direction, std::string_view flat, FontText word,
-                    int tries, const StripEnding& strip) {
+LookupResult lookUp(const DictionaryStore& store, Direction direction, std::string_view flat,
+                    FontText word, int tries, const StripEnding& strip) {
     LookupResult result;
     result.word = word;
     Translations t;
@@ -53,7 +55,8 @@ LookupResult lookUp(const DictionaryStore& store, Direction direction, std::stri
     result.found = true;
     FontText list;
     for (std::size_t i = 0; i < t.glosses.size(); ++i) list += (i ? ", " : "") + t.glosses[i];
-    result.text = "Translation for '" + t.shown + "' is '" + list + "'.\n Available Synonims & homonyms: ";
+    result.text =
+        "Translation for '" + t.shown + "' is '" + list + "'.\n Available Synonims & homonyms: ";
     const std::string_view last = t.glosses.back();
     for (std::size_t at = 0; at + kRecordLength <= flat.size(); at += kRecordLength) {
         const std::string_view raw = flat.substr(at, kRecordLength);
@@ -69,7 +72,8 @@ LookupResult lookUp(const DictionaryStore& store, Direction direction, std::stri
 }  // namespace
 
 bool isSelectionLetter(unsigned char c) {
-    return !(c < 'A' || (c >= '[' && c <= '`') || (c >= '{' && c <= 166) || (c >= 170 && c <= 177) || c > 253);
+    return !(c < 'A' || (c >= '[' && c <= '`') || (c >= '{' && c <= 166) ||
+             (c >= 170 && c <= 177) || c > 253);
 }
 
 FontText cleanSelection(std::string_view selection) {
@@ -108,16 +112,19 @@ LookupResult synonimse(const DictionaryStore& store, std::string_view englishFla
         FontText tail;
         return anqer(w, tail);
     };
-    return lookUp(store, Direction::EnglishToArmenian, englishFlat, std::move(word), kEnglishLookupTries, anqerStrip);
+    return lookUp(store, Direction::EnglishToArmenian, englishFlat, std::move(word),
+                  kEnglishLookupTries, anqerStrip);
 }
 
 LookupResult synonimsa(const DictionaryStore& store, std::string_view armenianFlat, FontText word,
                        const StripEnding& strip) {
-    return lookUp(store, Direction::ArmenianToEnglish, armenianFlat, std::move(word), kArmenianLookupTries, strip);
+    return lookUp(store, Direction::ArmenianToEnglish, armenianFlat, std::move(word),
+                  kArmenianLookupTries, strip);
 }
 
 LookupResult Txt34_dblclick(const DictionaryStore& store, std::string_view englishFlat,
-                            std::string_view armenianFlat, std::string_view selection, const StripEnding& strip) {
+                            std::string_view armenianFlat, std::string_view selection,
+                            const StripEnding& strip) {
     FontText word = cleanSelection(selection);
     if (word.empty()) return {};
     const auto last = static_cast<unsigned char>(word.back());

@@ -47,6 +47,7 @@ LookupResult synonimsa(const DictionaryStore& store, std::string_view armenianFl
 // A double click on a selection: cleans it, and looks it up as English or Armenian by its last
 // character. An empty word looks up nothing (the result's text is empty).
 LookupResult Txt34_dblclick(const DictionaryStore& store, std::string_view englishFlat,
-                            std::string_view armenianFlat, std::string_view selection, const StripEnding& strip);
+                            std::string_view armenianFlat, std::string_view selection,
+                            const StripEnding& strip);
 
 }  // namespace vorlexa

@@ -67,11 +67,14 @@ void DictionaryToolsShell::wordDoubleClicked(bool resultBox) {
     }
     if (r.runReplace) {
         // The find and replace box of the Edit menu, as far as it is built.
-        if (auto* replace = window_.findChild<QAction*>(QStringLiteral("Replacce")); replace && replace->isEnabled())
+        if (auto* replace = window_.findChild<QAction*>(QStringLiteral("Replacce"));
+            replace && replace->isEnabled())
             replace->trigger();
     }
 }
 
-DictionaryToolsShell* installDictionaryTools(Form1& window) { return new DictionaryToolsShell(window); }
+DictionaryToolsShell* installDictionaryTools(Form1& window) {
+    return new DictionaryToolsShell(window);
+}
 
 }  // namespace vorlexa::shell

@@ -17,7 +17,7 @@ class Form1;
 class DictionaryToolsShell : public QObject {
     Q_OBJECT
 
-public:
+  public:
     explicit DictionaryToolsShell(Form1& window);
 
     Form2* corrector() const { return form2_; }
@@ -26,10 +26,10 @@ public:
     void Corr_Click();
     void ETE_Click();
 
-protected:
+  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-private:
+  private:
     void wordDoubleClicked(bool resultBox);
 
     Form1& window_;

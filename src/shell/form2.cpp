@@ -75,7 +75,8 @@ void Form2::buildControls() {
         auto* b = new QPushButton(this);
         b->setObjectName(QString::fromLatin1(name));
         b->setAutoDefault(false);
-        connect(b, &QPushButton::clicked, this, [this, command] { run([this, command] { (corrector_.*command)(); }); });
+        connect(b, &QPushButton::clicked, this,
+                [this, command] { run([this, command] { (corrector_.*command)(); }); });
         return b;
     };
     Label1 = label("Label1");
@@ -142,7 +143,8 @@ void Form2::collect() {
 void Form2::refresh() {
     syncing_ = true;
     setWindowTitle(captionText(corrector_.caption("Form2")));
-    for (QLabel* l : {Label1, Label2, Label3, Label5}) l->setText(captionText(corrector_.caption(l->objectName().toStdString())));
+    for (QLabel* l : {Label1, Label2, Label3, Label5})
+        l->setText(captionText(corrector_.caption(l->objectName().toStdString())));
     for (QPushButton* b : {Command1, Command2, Command3, Command4, Command5, Command6, Command7}) {
         const std::string name = b->objectName().toStdString();
         b->setText(captionText(corrector_.caption(name)));
@@ -166,12 +168,13 @@ void Form2::run(const std::function<void()>& command) {
 }
 
 int Form2::ask(const Question& question, bool armenian) {
-    return prompter_.ask(this, messageText(question.title.in(armenian)), messageText(question.text.in(armenian)),
-                         question.buttons);
+    return prompter_.ask(this, messageText(question.title.in(armenian)),
+                         messageText(question.text.in(armenian)), question.buttons);
 }
 
 void Form2::notify(const Notice& notice, bool armenian) {
-    prompter_.notify(this, messageText(notice.title.in(armenian)), messageText(notice.text.in(armenian)));
+    prompter_.notify(this, messageText(notice.title.in(armenian)),
+                     messageText(notice.text.in(armenian)));
 }
 
 void Form2::showList(const std::filesystem::path& file, bool armenian) {
@@ -179,14 +182,17 @@ void Form2::showList(const std::filesystem::path& file, bool armenian) {
     if (openFile && openFile(path)) return;
     // No application to show it with: the user is told where the list is.
     const FontText where = fromUtf8(file.string());
-    notify({{"The list is written to " + where, FontText("Ցանկը գրված է "_ft) + where + FontText(" ֆայլում:"_ft)},
+    notify({{"The list is written to " + where,
+             FontText("Ցանկը գրված է "_ft) + where + FontText(" ֆայլում:"_ft)},
             {"Dictionary Report", FontText("Հաշվետվություն"_ft)}},
            armenian);
 }
 
 bool Form2::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonDblClick && (watched == Text1 || watched == Text2)) {
-        run([this, watched] { watched == Text1 ? corrector_.Text1_DblClick() : corrector_.Text2_DblClick(); });
+        run([this, watched] {
+            watched == Text1 ? corrector_.Text1_DblClick() : corrector_.Text2_DblClick();
+        });
         return true;
     }
     if (event->type() == QEvent::KeyPress && watched == Text2) {

@@ -26,7 +26,7 @@ bool openWithDefaultApplication(const QString& path);
 class Form2 : public QDialog, public CorrectorView {
     Q_OBJECT
 
-public:
+  public:
     Form2(app::MainForm& main, Prompter& prompter, QWidget* parent = nullptr);
 
     WordCorrector& logic() { return corrector_; }
@@ -41,10 +41,10 @@ public:
     void notify(const Notice& notice, bool armenian) override;
     void showList(const std::filesystem::path& file, bool armenian) override;
 
-protected:
+  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-private:
+  private:
     void buildControls();
     // The boxes as typed go to the logic before a command, and come back after it.
     void collect();

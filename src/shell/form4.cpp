@@ -69,9 +69,11 @@ void Form4::Command1_Click() {
 
 bool Form4::eventFilter(QObject* watched, QEvent* event) {
     // Phonetic typing, as in the main window's boxes, while the input language is Armenian.
-    if (event->type() != QEvent::KeyPress || !main_.checked("TA")) return QDialog::eventFilter(watched, event);
-    return insertPhonetic(watched, static_cast<QKeyEvent*>(event),
-                          [](unsigned char c) { return app::kanci(c, app::KeyTable::Expressions); });
+    if (event->type() != QEvent::KeyPress || !main_.checked("TA"))
+        return QDialog::eventFilter(watched, event);
+    return insertPhonetic(watched, static_cast<QKeyEvent*>(event), [](unsigned char c) {
+        return app::kanci(c, app::KeyTable::Expressions);
+    });
 }
 
 }  // namespace vorlexa::shell

@@ -17,17 +17,17 @@ class Prompter;
 class Form4 : public QDialog {
     Q_OBJECT
 
-public:
+  public:
     Form4(app::MainForm& main, Prompter& prompter, QWidget* parent = nullptr);
 
     ExpressionEditor& logic() { return editor_; }
     // Form_Load: Text1 takes the text selected in the result box.
     void open(const FontText& selectedInText4);
 
-protected:
+  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-private:
+  private:
     void Command1_Click();
     void refresh();
 

@@ -8,9 +8,11 @@
 
 namespace vorlexa::shell {
 
-bool insertPhonetic(QObject* box, const QKeyEvent* key, const std::function<unsigned char(unsigned char)>& map) {
+bool insertPhonetic(QObject* box, const QKeyEvent* key,
+                    const std::function<unsigned char(unsigned char)>& map) {
     const QString typed = key->text();
-    if (typed.size() != 1 || (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)))
+    if (typed.size() != 1 ||
+        (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)))
         return false;
     const char16_t c = typed.at(0).unicode();
     if (c < 0x20 || c >= 0x80) return false;

@@ -9,7 +9,7 @@ namespace {
 
 // The main window with nothing drawn: the boxes are strings, every question is answered No.
 class QuietView : public Form1View {
-public:
+  public:
     MainForm* form = nullptr;
     FontText Text3;
     FontText Text4;
@@ -31,7 +31,7 @@ public:
 };
 
 class LookupPanelTest : public ::testing::Test {
-protected:
+  protected:
     void SetUp() override {
         view.form = &form;
         ASSERT_EQ(form.Form_Load(data, {}), StartResult::Started);
@@ -73,7 +73,9 @@ TEST_F(LookupPanelTest, SlashInTheResultIsAnAlternativeOfferedForEditingNotALook
 TEST_F(LookupPanelTest, ResultWordIsLookedUpAndWithEditTranslationTheReplaceBoxFollows) {
     form.panel().Text2 = "old";
     DoubleClickResult r = Text4_dblclick(form, fromUtf8("տուն"));
-    EXPECT_EQ(r.toolTip, fromUtf8("Translation for 'տուն' is 'house'.\n Available Synonims & homonyms: 'տուն'"));
+    EXPECT_EQ(
+        r.toolTip,
+        fromUtf8("Translation for 'տուն' is 'house'.\n Available Synonims & homonyms: 'տուն'"));
     EXPECT_FALSE(r.runReplace);
     EXPECT_TRUE(form.panel().Text2.empty());
     form.EdtTr_Click();

@@ -12,10 +12,11 @@ constexpr int kHoColumn = 26 * 7 + 15;
 constexpr int kStride = 676;
 
 class DictEditCli : public ::testing::Test {
-protected:
+  protected:
     void SetUp() override {
         dir.write("src/lexicon/en-hy.tsv",
-                  "house\tտուն\tn\nhotel\tհյուրանոց\tn\nbig\tմեծ\ta\nlarge\tմեծ\ta\nbank\tափ\tn\nbank\tբանկ\tn\n");
+                  "house\tտուն\tn\nhotel\tհյուրանոց\tn\nbig\tմեծ\ta\nlarge\tմեծ\ta\nbank\tափ\tn\nba"
+                  "nk\tբանկ\tn\n");
         dir.write("src/lexicon/hy-en.tsv", "տուն\thouse\tn\nմեծ\tbig\ta\n");
         dir.write("src/lexicon/second-senses.txt", "en-hy\tbank\n");
         const auto r = run("dict build " + shellQuote((dir / "src").string()));
@@ -34,7 +35,8 @@ TEST_F(DictEditCli, SearchPrintsThePositionAndTheRecord) {
     EXPECT_EQ(r.exitCode, 0) << r.err;
     EXPECT_EQ(r.out, "e-a " + std::to_string(kHoColumn) + "\thouse\tտուն\tn\n");
     r = run("dict search bank --all");
-    EXPECT_EQ(r.out, "e-a 27\tbank\tափ\tn\ne-a " + std::to_string(27 + kStride) + "\tbank\tբանկ\tn\n");
+    EXPECT_EQ(r.out,
+              "e-a 27\tbank\tափ\tn\ne-a " + std::to_string(27 + kStride) + "\tbank\tբանկ\tn\n");
     EXPECT_EQ(run("dict search bank").out, "e-a 27\tbank\tափ\tn\n");
     r = run("dict search տուն");
     EXPECT_EQ(r.out.substr(0, 4), "a-e ");
@@ -47,7 +49,8 @@ TEST_F(DictEditCli, ChangeIsReadByTheNextTranslation) {
     auto r = run("dict change e-a " + std::to_string(kHoColumn) + " house շենք n");
     EXPECT_EQ(r.exitCode, 0) << r.err;
     EXPECT_EQ(r.out, "changed e-a " + std::to_string(kHoColumn) + "\n");
-    EXPECT_EQ(run("dict search house").out, "e-a " + std::to_string(kHoColumn) + "\thouse\tշենք\tn\n");
+    EXPECT_EQ(run("dict search house").out,
+              "e-a " + std::to_string(kHoColumn) + "\thouse\tշենք\tn\n");
     r = run("translate", "house\n");
     EXPECT_EQ(r.exitCode, 0) << r.err;
     EXPECT_NE(r.out.find("շենք"), std::string::npos) << r.out;
@@ -107,7 +110,8 @@ TEST_F(DictEditCli, ReportWritesTheSortedListInTheDataFolder) {
 TEST_F(DictEditCli, SynonymsOfAWordWhoseGlossTwoKeysShare) {
     auto r = run("dict synonyms Big,");
     EXPECT_EQ(r.exitCode, 0) << r.err;
-    EXPECT_EQ(r.out, "Translation for 'big' is 'մեծ'.\n Available Synonims & homonyms: 'big', 'large'\n");
+    EXPECT_EQ(r.out,
+              "Translation for 'big' is 'մեծ'.\n Available Synonims & homonyms: 'big', 'large'\n");
     r = run("dict synonyms window");
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_NE(r.err.find("No Results!!!"), std::string::npos);
@@ -117,8 +121,12 @@ TEST_F(DictEditCli, StatsCountWordsFreedSlotsAndEnds) {
     run("dict delete e-a " + std::to_string(kHoColumn));
     const auto r = run("dict stats");
     EXPECT_EQ(r.exitCode, 0) << r.err;
-    EXPECT_NE(r.out.find("dictionarye-a: 5 words, 1 freed slots, 676 column ends"), std::string::npos) << r.out;
-    EXPECT_NE(r.out.find("dictionarya-e: 2 words, 0 freed slots, 535 column ends"), std::string::npos) << r.out;
+    EXPECT_NE(r.out.find("dictionarye-a: 5 words, 1 freed slots, 676 column ends"),
+              std::string::npos)
+        << r.out;
+    EXPECT_NE(r.out.find("dictionarya-e: 2 words, 0 freed slots, 535 column ends"),
+              std::string::npos)
+        << r.out;
 }
 
 TEST_F(DictEditCli, ExpressionAddedIsAppliedByTheNextRun) {

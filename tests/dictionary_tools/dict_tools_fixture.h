@@ -18,10 +18,12 @@
 
 namespace vorlexa::test {
 
-inline FontText fontOf(const std::string& utf8) { return fromUtf8(utf8); }
+inline FontText fontOf(const std::string& utf8) {
+    return fromUtf8(utf8);
+}
 
 class RecordingCorrectorView : public CorrectorView {
-public:
+  public:
     int ask(const Question& question, bool armenian) override {
         questions.push_back(question);
         askedInArmenian = armenian;
@@ -42,9 +44,10 @@ public:
 };
 
 class DictToolsTest : public ::testing::Test {
-protected:
+  protected:
     // Lexicon lines are "key<TAB>gloss<TAB>tag" in UTF-8; secondSenses lines "en-hy<TAB>key".
-    void build(const std::string& english, const std::string& armenian, const std::string& secondSenses = "") {
+    void build(const std::string& english, const std::string& armenian,
+               const std::string& secondSenses = "") {
         dir.write("source/lexicon/en-hy.tsv", english);
         dir.write("source/lexicon/hy-en.tsv", armenian);
         if (!secondSenses.empty()) dir.write("source/lexicon/second-senses.txt", secondSenses);

@@ -72,11 +72,13 @@ const std::string kArmenian =
     "տուն\thouse\tn\n";
 
 class ReportTest : public DictToolsTest {
-protected:
+  protected:
     void SetUp() override { build(kEnglish, kArmenian); }
-    ReportResult report(const std::string& text1, const std::string& text2, const std::string& text3 = "") {
-        return writeDictionaryReport(store, data(), readStringsFile(data(), kEA), readStringsFile(data(), kAE),
-                                     fontOf(text1), fontOf(text2), fontOf(text3));
+    ReportResult report(const std::string& text1, const std::string& text2,
+                        const std::string& text3 = "") {
+        return writeDictionaryReport(store, data(), readStringsFile(data(), kEA),
+                                     readStringsFile(data(), kAE), fontOf(text1), fontOf(text2),
+                                     fontOf(text3));
     }
 };
 

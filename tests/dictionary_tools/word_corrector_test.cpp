@@ -22,7 +22,7 @@ constexpr std::int64_t kHoColumn = 26 * 7 + 15;
 constexpr std::int64_t kBaColumn = 26 * 1 + 1;
 
 class WordCorrectorTest : public DictToolsTest {
-protected:
+  protected:
     void SetUp() override {
         build(kEnglish, kArmenian, "en-hy\tbank\n");
         corrector = std::make_unique<WordCorrector>(store, view);
@@ -78,12 +78,14 @@ TEST_F(WordCorrectorTest, AllMeaningsDisablesSteppingAndEditingAndWidensTheTagBo
     corrector->Text1 = "house";
     corrector->Check1_Click(true);
     EXPECT_EQ(corrector->caption("Command3"), "Search for all Meanings");
-    for (const char* c : {"Command1", "Command2", "Command4", "Command5"}) EXPECT_FALSE(corrector->enabled(c)) << c;
+    for (const char* c : {"Command1", "Command2", "Command4", "Command5"})
+        EXPECT_FALSE(corrector->enabled(c)) << c;
     EXPECT_EQ(corrector->text3MaxLength(), 25);
     EXPECT_EQ(corrector->Text1, "house");  // turning it on keeps the boxes
     corrector->Check1_Click(false);
     EXPECT_EQ(corrector->caption("Command3"), "Search");
-    for (const char* c : {"Command1", "Command2", "Command4", "Command5"}) EXPECT_TRUE(corrector->enabled(c)) << c;
+    for (const char* c : {"Command1", "Command2", "Command4", "Command5"})
+        EXPECT_TRUE(corrector->enabled(c)) << c;
     EXPECT_TRUE(corrector->Text1.empty());
 }
 
@@ -192,7 +194,8 @@ TEST_F(WordCorrectorTest, ChangeRewritesTheRecordInPlaceAfterTheQuestion) {
     ASSERT_EQ(view.questions.size(), 1u);
     EXPECT_EQ(view.questions[0].text.english,
               "Are you sure you want to make a change in 'English to Armenian' dictionary?");
-    EXPECT_EQ(view.questions[0].text.armenian, fontOf("Վստաh ե՞ք, որ ուզում եք փոփոխել «Անգլերեն-հայերեն» բառարանը:"));
+    EXPECT_EQ(view.questions[0].text.armenian,
+              fontOf("Վստաh ե՞ք, որ ուզում եք փոփոխել «Անգլերեն-հայերեն» բառարանը:"));
     EXPECT_EQ(recordAt(kEA, kHoColumn).raw, DictRecord::make("house", fontOf("շենք"), "n").raw);
     // The other dictionary is not touched.
     EXPECT_EQ(file(kAE).read(skizbaColumn(fontOf("տուն"))), before);
@@ -214,7 +217,8 @@ TEST_F(WordCorrectorTest, ChangeOfTheArmenianDictionaryPutsTheArmenianKeyFirst) 
     corrector->Command4_Click();
     EXPECT_EQ(view.questions[0].text.english,
               "Are you sure you want to make a change in 'Armenian to English' dictionary?");
-    EXPECT_EQ(recordAt(kAE, skizbaColumn(fontOf("մեծ"))).raw, DictRecord::make(fontOf("մեծ"), "large", "a").raw);
+    EXPECT_EQ(recordAt(kAE, skizbaColumn(fontOf("մեծ"))).raw,
+              DictRecord::make(fontOf("մեծ"), "large", "a").raw);
 }
 
 TEST_F(WordCorrectorTest, ChangedKeyMayLeaveItsColumnAndFieldsAreCutAtTheirWidths) {
@@ -281,7 +285,8 @@ TEST_F(WordCorrectorTest, DeleteAsksAboutTheEnglishDictionaryInEnglishWhicheverI
     ASSERT_EQ(view.questions.size(), 1u);
     EXPECT_EQ(view.questions[0].text.english,
               "Are you sure you want to make a change in 'English to Armenian' dictionary?");
-    EXPECT_EQ(view.questions[0].text.armenian, fontOf("Վստահ ե՞ք, որ ուզում եք փոփոխել «Հայերեն-անգլերեն» բառարանը:"));
+    EXPECT_EQ(view.questions[0].text.armenian,
+              fontOf("Վստահ ե՞ք, որ ուզում եք փոփոխել «Հայերեն-անգլերեն» բառարանը:"));
     EXPECT_TRUE(recordAt(kAE, skizbaColumn(fontOf("մեծ"))).isFreed());
 }
 
@@ -310,11 +315,13 @@ TEST_F(WordCorrectorTest, WordResourcesCountTheRecordsWithAGlossAndComeBack) {
     EXPECT_EQ(corrector->Text1, "5 English to Armenian");
     EXPECT_EQ(corrector->Text2, "2 Armenian to English");
     EXPECT_EQ(corrector->caption("Command6"), "OK");
-    for (const char* c : {"Command1", "Command3", "Command4", "Command7"}) EXPECT_FALSE(corrector->enabled(c)) << c;
+    for (const char* c : {"Command1", "Command3", "Command4", "Command7"})
+        EXPECT_FALSE(corrector->enabled(c)) << c;
     corrector->Command6_Click();
     EXPECT_EQ(corrector->caption("Command6"), "Word Resources");
     EXPECT_EQ(corrector->caption("Command7"), "Dictionary Report");
-    for (const char* c : {"Command1", "Command3", "Command4", "Command7"}) EXPECT_TRUE(corrector->enabled(c)) << c;
+    for (const char* c : {"Command1", "Command3", "Command4", "Command7"})
+        EXPECT_TRUE(corrector->enabled(c)) << c;
     EXPECT_TRUE(corrector->Text1.empty());
     EXPECT_TRUE(corrector->Text2.empty());
 }
@@ -329,7 +336,9 @@ TEST_F(WordCorrectorTest, WordResourcesInArmenian) {
 }
 
 TEST_F(WordCorrectorTest, ArmenianBoxTypesSmallLettersAndEnterSearches) {
-    const auto code = [](const char* letter) { return static_cast<unsigned char>(fontOf(letter)[0]); };
+    const auto code = [](const char* letter) {
+        return static_cast<unsigned char>(fontOf(letter)[0]);
+    };
     EXPECT_EQ(WordCorrector::Text2_KeyPress('t'), code("տ"));
     EXPECT_EQ(WordCorrector::Text2_KeyPress('T'), code("տ"));
     EXPECT_EQ(WordCorrector::Text2_KeyPress('7'), code("և"));

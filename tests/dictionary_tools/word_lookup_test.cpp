@@ -23,11 +23,11 @@ const std::string kArmenian =
     "տուն\thouse\tn\n";
 
 class WordLookupTest : public DictToolsTest {
-protected:
+  protected:
     void SetUp() override { build(kEnglish, kArmenian, "en-hy\tbank\n"); }
     LookupResult click(const std::string& selection, const StripEnding& strip = {}) {
-        return Txt34_dblclick(store, readStringsFile(data(), kEA), readStringsFile(data(), kAE), fontOf(selection),
-                              strip);
+        return Txt34_dblclick(store, readStringsFile(data(), kEA), readStringsFile(data(), kAE),
+                              fontOf(selection), strip);
     }
 };
 
@@ -41,8 +41,11 @@ TEST(CleanSelectionTest, SignsStuckToAWordAreLeftOut) {
 }
 
 TEST(CleanSelectionTest, LetterCodesAreTheLatinLettersAndTheArmenianOnes) {
-    for (const int c : {int{'A'}, int{'Z'}, int{'a'}, int{'z'}, 167, 168, 169, 178, 253}) EXPECT_TRUE(isSelectionLetter(static_cast<unsigned char>(c))) << c;
-    for (const int c : {int{'@'}, int{'['}, int{'`'}, int{'{'}, int{'0'}, int{' '}, 166, 170, 177, 254}) EXPECT_FALSE(isSelectionLetter(static_cast<unsigned char>(c))) << c;
+    for (const int c : {int{'A'}, int{'Z'}, int{'a'}, int{'z'}, 167, 168, 169, 178, 253})
+        EXPECT_TRUE(isSelectionLetter(static_cast<unsigned char>(c))) << c;
+    for (const int c :
+         {int{'@'}, int{'['}, int{'`'}, int{'{'}, int{'0'}, int{' '}, 166, 170, 177, 254})
+        EXPECT_FALSE(isSelectionLetter(static_cast<unsigned char>(c))) << c;
 }
 
 TEST_F(WordLookupTest, WordsWithTheSameSingleGlossAreSynonyms) {
@@ -61,7 +64,9 @@ TEST_F(WordLookupTest, ArmenianWordWhoseGlossTwoKeysShare) {
     EXPECT_EQ(r.word, fontOf("մեծ"));
     // The column of "խո" comes before that of "մե".
     EXPECT_EQ(r.synonyms, (std::vector<FontText>{fontOf("խոշոր"), fontOf("մեծ")}));
-    EXPECT_EQ(r.text, fontOf("Translation for 'մեծ' is 'big'.\n Available Synonims & homonyms: 'խոշոր', 'մեծ'"));
+    EXPECT_EQ(
+        r.text,
+        fontOf("Translation for 'մեծ' is 'big'.\n Available Synonims & homonyms: 'խոշոր', 'մեծ'"));
 }
 
 TEST_F(WordLookupTest, EveryRecordOfAKeyIsATranslationAndTheLastGlossPicksTheSynonyms) {

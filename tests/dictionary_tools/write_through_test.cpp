@@ -22,7 +22,7 @@ const std::string kEnglish =
 constexpr std::int64_t kHoColumn = 26 * 7 + 15;
 
 class WriteThroughTest : public DictToolsTest {
-protected:
+  protected:
     void SetUp() override { build(kEnglish, "տուն\thouse\tn\n"); }
 
     // Runs the edit in a child process over its own store, which is killed the moment the edit
@@ -38,7 +38,8 @@ protected:
         }
         int status = 0;
         ASSERT_EQ(waitpid(child, &status, 0), child);
-        ASSERT_TRUE(WIFSIGNALED(status)) << "the child ended by itself with " << WEXITSTATUS(status);
+        ASSERT_TRUE(WIFSIGNALED(status))
+            << "the child ended by itself with " << WEXITSTATUS(status);
         EXPECT_EQ(WTERMSIG(status), SIGKILL);
     }
 
@@ -72,7 +73,9 @@ TEST_F(WriteThroughTest, DeleteSurvivesAKillRightAfterIt) {
 }
 
 TEST_F(WriteThroughTest, AddedWordAndItsMovedEndSurviveAKill) {
-    editThenKill([](DictionaryStore& s) { return insertWordPair(s, kEA, "hold", fontOf("պահել"), "v").record.has_value(); });
+    editThenKill([](DictionaryStore& s) {
+        return insertWordPair(s, kEA, "hold", fontOf("պահել"), "v").record.has_value();
+    });
     EXPECT_EQ(reopened(kEA, kHoColumn + 2 * kEnglishStride).key(), "hold");
     EXPECT_TRUE(reopened(kEA, kHoColumn + 3 * kEnglishStride).isNull());
     DictionaryStore again;
@@ -100,7 +103,8 @@ TEST_F(WriteThroughTest, WordCorrectorChangeSurvivesAKill) {
 }
 
 TEST_F(WriteThroughTest, ExpressionSurvivesAKill) {
-    editThenKill([this](DictionaryStore&) { return addExpression(data(), "big", "large").record == 1; });
+    editThenKill(
+        [this](DictionaryStore&) { return addExpression(data(), "big", "large").record == 1; });
     RecordFile list;
     ASSERT_TRUE(list.open(data() / "uxxume", kPairRecordLength));
     EXPECT_EQ(list.read(1), expressionRecord("big", "large"));

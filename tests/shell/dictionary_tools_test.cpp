@@ -14,8 +14,8 @@
 #include <fstream>
 #include <memory>
 
-#include "dictionary_tools/lexicon_compiler.h"
 #include "app/word_lookup_panel.h"
+#include "dictionary_tools/lexicon_compiler.h"
 #include "shell/dictionary_tools_shell.h"
 #include "shell/form1.h"
 #include "shell/form2.h"
@@ -45,7 +45,7 @@ const char* const kArmenian =
 class DictionaryToolsTest : public QObject {
     Q_OBJECT
 
-private:
+  private:
     QTemporaryDir dir_;
     std::filesystem::path data_;
     ScriptedPrompter prompter_;
@@ -55,7 +55,8 @@ private:
         window_ = std::make_unique<Form1>();
         window_->setPrompter(&prompter_);
         window_->saveForExit = [] { return true; };
-        if (window_->start(data_, {}) != app::StartResult::Started) qFatal("the window did not start");
+        if (window_->start(data_, {}) != app::StartResult::Started)
+            qFatal("the window did not start");
         window_->show();
         if (!QTest::qWaitForWindowExposed(window_.get())) qWarning("window not exposed");
         return *window_;
@@ -66,7 +67,9 @@ private:
         if (!w) qFatal("no control %s", name);
         return w;
     }
-    shell::DictionaryToolsShell* tools() { return child<shell::DictionaryToolsShell>(window_.get(), "DictionaryTools"); }
+    shell::DictionaryToolsShell* tools() {
+        return child<shell::DictionaryToolsShell>(window_.get(), "DictionaryTools");
+    }
     shell::Form2* openCorrector() {
         child<QAction>(window_.get(), "Corr")->trigger();
         shell::Form2* f = tools()->corrector();
@@ -83,10 +86,11 @@ private:
         QTest::qWait(20);
     }
 
-private slots:
+  private slots:
     void init() {
         QVERIFY(dir_.isValid());
-        const std::filesystem::path root = dir_.path().toStdString() + "/" + QTest::currentTestFunction();
+        const std::filesystem::path root =
+            dir_.path().toStdString() + "/" + QTest::currentTestFunction();
         std::filesystem::remove_all(root);
         writeFile(root / "src/lexicon/en-hy.tsv", kEnglish);
         writeFile(root / "src/lexicon/hy-en.tsv", kArmenian);
@@ -106,12 +110,15 @@ private slots:
         QCOMPARE(f->objectName(), QStringLiteral("Form2"));
         QVERIFY(f->isVisible());
         for (const char* name : {"Text1", "Text2", "Text3", "Text4"}) child<QLineEdit>(f, name);
-        for (const char* name : {"Label1", "Label2", "Label3", "Label4", "Label5"}) child<QLabel>(f, name);
+        for (const char* name : {"Label1", "Label2", "Label3", "Label4", "Label5"})
+            child<QLabel>(f, name);
         child<QCheckBox>(f, "Check1");
-        for (const char* name : {"Command1", "Command2", "Command3", "Command4", "Command5", "Command6", "Command7"})
+        for (const char* name :
+             {"Command1", "Command2", "Command3", "Command4", "Command5", "Command6", "Command7"})
             child<QPushButton>(f, name);
         QCOMPARE(child<QPushButton>(f, "Command3")->text(), QStringLiteral("Search"));
-        QCOMPARE(child<QPushButton>(f, "Command3")->toolTip(), QStringLiteral("Hot key - 'ENTER'."));
+        QCOMPARE(child<QPushButton>(f, "Command3")->toolTip(),
+                 QStringLiteral("Hot key - 'ENTER'."));
     }
 
     void armenianInterfaceGivesTheArmenianCaptions() {
@@ -139,7 +146,8 @@ private slots:
         QCOMPARE(prompter_.asked.size(), 1);
         QVERIFY(prompter_.asked[0].contains(QStringLiteral("'English to Armenian'")));
         child<QPlainTextEdit>(window_.get(), "Text3")->setPlainText(QStringLiteral("big"));
-        QCOMPARE(child<QPlainTextEdit>(window_.get(), "Text4")->toPlainText().trimmed(), u("խոշոր"));
+        QCOMPARE(child<QPlainTextEdit>(window_.get(), "Text4")->toPlainText().trimmed(),
+                 u("խոշոր"));
     }
 
     void armenianBoxTypesPhoneticallyAndEnterSearches() {
@@ -160,7 +168,8 @@ private slots:
         child<QCheckBox>(f, "Check1")->setChecked(true);
         for (const char* name : {"Command1", "Command2", "Command4", "Command5"})
             QVERIFY2(!child<QPushButton>(f, name)->isEnabled(), name);
-        QCOMPARE(child<QPushButton>(f, "Command3")->text(), QStringLiteral("Search for all Meanings"));
+        QCOMPARE(child<QPushButton>(f, "Command3")->text(),
+                 QStringLiteral("Search for all Meanings"));
         QCOMPARE(child<QLineEdit>(f, "Text3")->maxLength(), 25);
     }
 
@@ -204,7 +213,9 @@ private slots:
         QTextCursor c = text4->textCursor();
         c.select(QTextCursor::Document);
         text4->setTextCursor(c);
-        QCOMPARE(app::Text4_dblclick(w.logic(), shell::fontText(text4->textCursor().selectedText())).runReplace, true);
+        QCOMPARE(app::Text4_dblclick(w.logic(), shell::fontText(text4->textCursor().selectedText()))
+                     .runReplace,
+                 true);
         w.stateChanged();
         QCOMPARE(child<QLineEdit>(window_.get(), "Text2")->text(), u("երկրորդ/վայրկյան"));
         QVERIFY(text4->toolTip().isEmpty());

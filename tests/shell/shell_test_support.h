@@ -15,7 +15,7 @@ namespace vorlexa::shell::test {
 
 // Answers the window's questions from a script; No once the script is used up.
 class ScriptedPrompter : public Prompter {
-public:
+  public:
     std::deque<int> answers;
     QStringList asked;
     QStringList notices;
@@ -37,6 +37,8 @@ inline void writeFile(const std::filesystem::path& path, const char* text) {
     std::ofstream(path, std::ios::binary) << text;
 }
 
-inline QString u(const char* utf8) { return QString::fromUtf8(utf8); }
+inline QString u(const char* utf8) {
+    return QString::fromUtf8(utf8);
+}
 
 }  // namespace vorlexa::shell::test
