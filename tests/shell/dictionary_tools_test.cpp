@@ -26,6 +26,7 @@
 using namespace vorlexa;
 using vorlexa::shell::Form1;
 using vorlexa::shell::test::ScriptedPrompter;
+using vorlexa::shell::test::startWindow;
 using vorlexa::shell::test::u;
 using vorlexa::shell::test::writeFile;
 
@@ -52,13 +53,7 @@ class DictionaryToolsTest : public QObject {
     std::unique_ptr<Form1> window_;
 
     Form1& open() {
-        window_ = std::make_unique<Form1>();
-        window_->setPrompter(&prompter_);
-        window_->saveForExit = [] { return true; };
-        if (window_->start(data_, {}) != app::StartResult::Started)
-            qFatal("the window did not start");
-        window_->show();
-        if (!QTest::qWaitForWindowExposed(window_.get())) qWarning("window not exposed");
+        window_ = startWindow(data_, prompter_);
         return *window_;
     }
     template <class T>

@@ -28,6 +28,7 @@
 using namespace vorlexa;
 using vorlexa::shell::Form1;
 using vorlexa::shell::test::ScriptedPrompter;
+using vorlexa::shell::test::startWindow;
 using vorlexa::shell::test::u;
 using vorlexa::shell::test::writeFile;
 
@@ -41,13 +42,7 @@ private:
     std::unique_ptr<Form1> window_;
 
     Form1& open() {
-        window_ = std::make_unique<Form1>();
-        window_->setPrompter(&prompter_);
-        window_->saveForExit = [] { return true; };
-        const app::StartResult started = window_->start(data_, {});
-        if (started != app::StartResult::Started) qFatal("the window did not start");
-        window_->show();
-        if (!QTest::qWaitForWindowExposed(window_.get())) qWarning("window not exposed");
+        window_ = startWindow(data_, prompter_);
         window_->activateWindow();
         return *window_;
     }

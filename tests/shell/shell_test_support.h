@@ -4,10 +4,12 @@
 
 #include <QString>
 #include <QStringList>
+#include <QTest>
 #include <deque>
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <memory>
 
 #include "shell/form1.h"
 
@@ -35,6 +37,17 @@ class ScriptedPrompter : public Prompter {
 inline void writeFile(const std::filesystem::path& path, const char* text) {
     std::filesystem::create_directories(path.parent_path());
     std::ofstream(path, std::ios::binary) << text;
+}
+
+// A main window on the data folder, started and drawn; its questions go to the prompter.
+inline std::unique_ptr<Form1> startWindow(const std::filesystem::path& data, Prompter& prompter) {
+    auto window = std::make_unique<Form1>();
+    window->setPrompter(&prompter);
+    window->saveForExit = [] { return true; };
+    if (window->start(data, {}) != app::StartResult::Started) qFatal("the window did not start");
+    window->show();
+    if (!QTest::qWaitForWindowExposed(window.get())) qWarning("window not exposed");
+    return window;
 }
 
 inline QString u(const char* utf8) {
