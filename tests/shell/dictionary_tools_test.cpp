@@ -127,6 +127,20 @@ class DictionaryToolsTest : public QObject {
         QCOMPARE(child<QPushButton>(f, "Command6")->text(), u("Բառապաշար"));
     }
 
+    void correctorOpenedAgainIsFreshInTheInterfaceLanguageOfThatMoment() {
+        Form1& w = open();
+        w.logic().SkipInterfaceQuestion = 1;
+        w.logic().AMN_Click();
+        shell::Form2* f = openCorrector();
+        child<QLineEdit>(f, "Text1")->setText(QStringLiteral("house"));
+        f->close();
+        w.logic().Engo_Click();
+        f = openCorrector();
+        QCOMPARE(f->windowTitle(), QStringLiteral("Dictionary"));
+        QCOMPARE(child<QPushButton>(f, "Command4")->text(), QStringLiteral("Chng"));
+        QVERIFY(child<QLineEdit>(f, "Text1")->text().isEmpty());
+    }
+
     void searchChangeAndTheNextTranslation() {
         open();
         shell::Form2* f = openCorrector();
