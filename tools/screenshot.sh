@@ -3,8 +3,6 @@
 # X server, with the shipped dictionaries in a fresh data folder. The README shows the result.
 #
 #   tools/screenshot.sh [OUTPUT.png]        (BUILD_DIR: the build tree, default build/)
-#   SCREENSHOT_CORRECTOR=house tools/screenshot.sh packaging/screenshots/word-corrector.png
-#                                           (the Word Corrector with that word found)
 set -euo pipefail
 
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -26,6 +24,5 @@ trap 'rm -rf "$data"' EXIT
 mkdir -p "$(dirname "$out")"
 # The xcb platform of a real (virtual) X server, not the offscreen one the tests use.
 QT_QPA_PLATFORM=xcb xvfb-run -a -s "$screen" \
-    "$build/bin/vorlexa-screenshot" --data-dir "$data" --output "$out" --text "$text" \
-    ${SCREENSHOT_CORRECTOR:+--corrector "$SCREENSHOT_CORRECTOR"}
+    "$build/bin/vorlexa-screenshot" --data-dir "$data" --output "$out" --text "$text"
 echo "$out"

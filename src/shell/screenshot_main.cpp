@@ -1,17 +1,13 @@
-// Draws the main window with a text and its translation into a PNG file, for the README, or with
-// --corrector the Word Corrector with a word found. Run under a virtual X server
-// (tools/screenshot.sh); the questions of the run are answered No.
+// Draws the main window with a text and its translation into a PNG file, for the README. Run
+// under a virtual X server (tools/screenshot.sh); the questions of the run are answered No.
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QLineEdit>
 #include <QPixmap>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QScreen>
 #include <QTimer>
 
 #include "engine/data_folder.h"
-#include "shell/dictionary_tools_shell.h"
 #include "shell/form1.h"
 #include "shell/qt_text.h"
 
@@ -36,10 +32,7 @@ int main(int argc, char** argv) {
     const QCommandLineOption output(QStringLiteral("output"), QStringLiteral("PNG file to write."), QStringLiteral("FILE"));
     const QCommandLineOption text(QStringLiteral("text"), QStringLiteral("Text typed into the source box."),
                                   QStringLiteral("TEXT"));
-    const QCommandLineOption corrector(QStringLiteral("corrector"),
-                                       QStringLiteral("Draw the Word Corrector with this English word found."),
-                                       QStringLiteral("WORD"));
-    parser.addOptions({dataDir, output, text, corrector});
+    parser.addOptions({dataDir, output, text});
     parser.process(application);
     if (!parser.isSet(dataDir) || !parser.isSet(output)) {
         parser.showHelp(2);
@@ -54,18 +47,10 @@ int main(int argc, char** argv) {
     window.resize(kWidth, kHeight);
     window.show();
     window.findChild<QPlainTextEdit*>(QStringLiteral("Text3"))->setPlainText(parser.value(text));
-    QWidget* drawn = &window;
-    if (parser.isSet(corrector)) {
-        auto* tools = window.findChild<vorlexa::shell::DictionaryToolsShell*>(QStringLiteral("DictionaryTools"));
-        tools->Corr_Click();
-        drawn = tools->corrector();
-        drawn->findChild<QLineEdit*>(QStringLiteral("Text1"))->setText(parser.value(corrector));
-        drawn->findChild<QPushButton*>(QStringLiteral("Command3"))->click();
-    }
 
     int result = 1;
     QTimer::singleShot(kSettleMilliseconds, [&] {
-        const QPixmap shot = drawn->screen()->grabWindow(drawn->winId());
+        const QPixmap shot = window.screen()->grabWindow(window.winId());
         result = shot.save(parser.value(output), "PNG") ? 0 : 1;
         window.logic().finish();
         QApplication::exit(result);

@@ -21,16 +21,20 @@
 #include "shell/form2.h"
 #include "shell/form4.h"
 #include "shell/qt_text.h"
-#include "shell/shell_test_support.h"
+#include "shell/scripted_prompter.h"
 
 using namespace vorlexa;
 using vorlexa::shell::Form1;
-using vorlexa::shell::test::ScriptedPrompter;
-using vorlexa::shell::test::startWindow;
-using vorlexa::shell::test::u;
-using vorlexa::shell::test::writeFile;
+using vorlexa::test::ScriptedPrompter;
 
 namespace {
+
+void writeFile(const std::filesystem::path& path, const char* text) {
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << text;
+}
+
+QString u(const char* utf8) { return QString::fromUtf8(utf8); }
 
 const char* const kEnglish =
     "house\tտուն\tn\n"
@@ -53,7 +57,12 @@ class DictionaryToolsTest : public QObject {
     std::unique_ptr<Form1> window_;
 
     Form1& open() {
-        window_ = startWindow(data_, prompter_);
+        window_ = std::make_unique<Form1>();
+        window_->setPrompter(&prompter_);
+        window_->saveForExit = [] { return true; };
+        if (window_->start(data_, {}) != app::StartResult::Started) qFatal("the window did not start");
+        window_->show();
+        if (!QTest::qWaitForWindowExposed(window_.get())) qWarning("window not exposed");
         return *window_;
     }
     template <class T>

@@ -23,14 +23,39 @@
 #include "dictionary_tools/lexicon_compiler.h"
 #include "shell/form1.h"
 #include "shell/qt_text.h"
-#include "shell/shell_test_support.h"
 
 using namespace vorlexa;
 using vorlexa::shell::Form1;
-using vorlexa::shell::test::ScriptedPrompter;
-using vorlexa::shell::test::startWindow;
-using vorlexa::shell::test::u;
-using vorlexa::shell::test::writeFile;
+
+namespace {
+
+// Answers the window's questions from a script; No once the script is used up.
+class ScriptedPrompter : public shell::Prompter {
+public:
+    std::deque<int> answers;
+    QStringList asked;
+    QStringList notices;
+    std::function<void()> whenAsked;  // looks at the window while the question stands
+
+    int ask(QWidget*, const QString& title, const QString& text, Buttons) override {
+        asked << title + QStringLiteral(" | ") + text;
+        if (whenAsked) whenAsked();
+        if (answers.empty()) return kAnswerNo;
+        const int a = answers.front();
+        answers.pop_front();
+        return a;
+    }
+    void notify(QWidget*, const QString&, const QString& text) override { notices << text; }
+};
+
+void writeFile(const std::filesystem::path& path, const char* text) {
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << text;
+}
+
+QString u(const char* utf8) { return QString::fromUtf8(utf8); }
+
+}  // namespace
 
 class Form1Test : public QObject {
     Q_OBJECT
@@ -42,7 +67,13 @@ private:
     std::unique_ptr<Form1> window_;
 
     Form1& open() {
-        window_ = startWindow(data_, prompter_);
+        window_ = std::make_unique<Form1>();
+        window_->setPrompter(&prompter_);
+        window_->saveForExit = [] { return true; };
+        const app::StartResult started = window_->start(data_, {});
+        if (started != app::StartResult::Started) qFatal("the window did not start");
+        window_->show();
+        if (!QTest::qWaitForWindowExposed(window_.get())) qWarning("window not exposed");
         window_->activateWindow();
         return *window_;
     }
