@@ -171,6 +171,7 @@ void addDictCommands(CLI::App& app, const GlobalOptions& options, int& result) {
     bu->callback([args, &options, &result] { result = build(options, *args); });
 
     addDictEditCommands(*dict, options, result);
+    addExpressionCommands(app, options, result);
 }
 
 }  // namespace vorlexa::cli

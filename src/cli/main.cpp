@@ -4,7 +4,6 @@
 
 #include "cli/cli_common.h"
 #include "cli/dict_commands.h"
-#include "cli/dict_edit_commands.h"
 #include "cli/translate_commands.h"
 
 #ifndef VORLEXA_VERSION
@@ -25,7 +24,6 @@ int main(int argc, char** argv) {
     int result = kExitOk;
     addDictCommands(app, options, result);
     addTranslateCommands(app, options, result);
-    addExpressionCommands(app, options, result);
 
     try {
         app.parse(argc, argv);
