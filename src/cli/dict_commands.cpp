@@ -3,6 +3,7 @@
 #include <iostream>
 #include <memory>
 
+#include "cli/dict_edit_commands.h"
 #include "dictionary_tools/lexicon_compiler.h"
 #include "engine/data_folder.h"
 #include "engine/dictionary_store.h"
@@ -187,6 +188,9 @@ void addDictCommands(CLI::App& app, const GlobalOptions& options, int& result) {
     CLI::App* bu = dict->add_subcommand("build", "Compile a source folder laid out as data/ into the data folder");
     bu->add_option("SOURCE", args->source, "folder with lexicon/, pairs/, help/")->required()->check(CLI::ExistingDirectory);
     bu->callback([args, &options, &result] { result = build(options, *args); });
+
+    addDictEditCommands(*dict, options, result);
+    addExpressionCommands(app, options, result);
 }
 
 }  // namespace vorlexa::cli

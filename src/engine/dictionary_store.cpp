@@ -218,15 +218,18 @@ std::optional<std::int64_t> DictionaryStore::findArmenian(std::string_view word)
     return std::nullopt;
 }
 
+bool carriesGloss(std::string_view record) {
+    // An empty record compares blanks with blanks; "null" closes a column.
+    return mid(record, 1, 20) != mid(record, 26, 20) && mid(record, 1, 4) != kNullKey;
+}
+
 namespace {
 // Rewrites `to` as the flat list of the records of `from` that carry a real gloss.
 bool copyRealRecords(const RecordFile& from, RecordFile& to) {
     std::string out;
     for (std::int64_t rec = 1; rec <= from.recordCountExact(); ++rec) {
         const std::string r = from.read(rec);
-        // An empty record compares blanks with blanks; "null" closes a column.
-        if (mid(r, 1, 20) == mid(r, 26, 20) || mid(r, 1, 4) == kNullKey) continue;
-        out += r;
+        if (carriesGloss(r)) out += r;
     }
     return to.replaceAll(out);
 }
@@ -302,6 +305,48 @@ std::optional<std::int64_t> insertRecord(RecordFile& file, Direction direction, 
     }
     if (error) *error = "the column has no free slot and no end record";
     return std::nullopt;
+}
+
+namespace {
+// The checks shared by a change and a delete: the record exists and is no column's end.
+bool editableRecord(const RecordFile& file, std::int64_t n, std::string* error) {
+    if (n < 1 || n > file.recordCount()) {
+        if (error)
+            *error = "record " + std::to_string(n) + " is outside " + file.path().filename().string() + " (1.." +
+                     std::to_string(file.recordCount()) + ")";
+        return false;
+    }
+    DictRecord current;
+    current.raw = file.read(n);
+    if (current.isNull()) {
+        if (error) *error = "record " + std::to_string(n) + " ends its column and cannot be edited";
+        return false;
+    }
+    return true;
+}
+
+bool writeEdited(RecordFile& file, std::int64_t n, const std::string& raw, std::string* error) {
+    if (file.write(n, raw)) return true;
+    if (error) *error = "cannot write " + file.path().string();
+    return false;
+}
+}  // namespace
+
+bool changeRecord(DictionaryStore& store, Direction direction, std::int64_t n, const DictRecord& record,
+                  std::string* error) {
+    RecordFile& file = store.source(direction);
+    if (!editableRecord(file, n, error)) return false;
+    if (record.isNull()) {
+        if (error) *error = "a record reading \"null\" would end the column";
+        return false;
+    }
+    return writeEdited(file, n, record.raw, error);
+}
+
+bool deleteRecord(DictionaryStore& store, Direction direction, std::int64_t n, std::string* error) {
+    RecordFile& file = store.source(direction);
+    if (!editableRecord(file, n, error)) return false;
+    return writeEdited(file, n, std::string(kRecordLength, 'w'), error);
 }
 
 InsertResult insertWordPair(DictionaryStore& store, Direction direction, std::string_view key,

@@ -118,6 +118,7 @@ public:
     const RecordFile& english() const { return english_; }
     const RecordFile& armenian() const { return armenian_; }
     RecordFile& source(Direction d) { return d == Direction::EnglishToArmenian ? english_ : armenian_; }
+    const RecordFile& source(Direction d) const { return d == Direction::EnglishToArmenian ? english_ : armenian_; }
 
     // The walks with their exact-key test. English: the "null" test comes first and ends the
     // walk. Armenian: the key is compared first, and only a matching record is tested for
@@ -156,6 +157,21 @@ std::optional<std::int64_t> insertRecord(RecordFile& file, Direction direction, 
 // The key, gloss and tag are font text as typed; they are blank-padded or cut to their widths.
 InsertResult insertWordPair(DictionaryStore& store, Direction direction, std::string_view key,
                             std::string_view gloss, std::string_view tag);
+
+// Rewrites record n of the dictionary of `direction` in place, as the dictionary editor changes a
+// word. Nothing checks that the key still belongs to the column. Refuses, writing nothing, a
+// number outside the file, a column's end record, and a record that would read as an end record,
+// so that an edit never cuts a column short.
+bool changeRecord(DictionaryStore& store, Direction direction, std::int64_t n, const DictRecord& record,
+                  std::string* error = nullptr);
+
+// Frees record n: all 45 characters become "w". The slot keeps its place in the column, matches no
+// word, and is reused by the next insertion into that column. The same refusals as a change.
+bool deleteRecord(DictionaryStore& store, Direction direction, std::int64_t n, std::string* error = nullptr);
+
+// True when a record carries a real word: not empty (its first 20 characters equal to its last
+// 20, blanks with blanks) and not a column's end record. Such records make up Stringea/Stringae.
+bool carriesGloss(std::string_view record);
 
 // Writes a fresh dictionary: one row of "null" records, one per column.
 bool createEmptyDictionary(RecordFile& file, int stride);

@@ -27,6 +27,8 @@
 #include "shell/qt_text.h"
 #include "shell/shell_menus.h"
 
+#include "shell/dictionary_tools_shell.h"
+
 namespace vorlexa::shell {
 
 namespace {
@@ -103,6 +105,7 @@ Form1::Form1(QWidget* parent)
 
     buildControls();
     buildMenus();
+    installDictionaryTools(*this);
     stateChanged();
     shellMenus_ = std::make_unique<ShellMenus>(*this);
     saveForExit = [this] {

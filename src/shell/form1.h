@@ -64,6 +64,7 @@ public:
     app::MainForm& logic() { return *logic_; }
     // The window does not own the prompter; nullptr brings back the message boxes.
     void setPrompter(Prompter* prompter);
+    Prompter& prompter() const { return *prompter_; }
 
     // A later window wires its command here; its menu item is enabled from then on, as far as
     // the design's own rules allow. Until then the item is shown with its caption, disabled.

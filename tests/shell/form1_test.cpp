@@ -123,7 +123,7 @@ private slots:
 
     void itemsWhoseWorkIsNotBuiltAreShownDisabled() {
         Form1& w = open();
-        for (const char* name : {"Corr", "Fnd", "Replacce", "uta", "cvtae", "Chat"})
+        for (const char* name : {"Fnd", "Replacce", "uta", "cvtae", "Chat"})
             QVERIFY2(!action(name)->isEnabled(), name);
         for (const char* name : {"TS", "ITR", "IMPV", "SUT", "EF", "EdtTr", "AMN", "Engo", "TA", "exit1", "Open1", "CWD",
                                  "HTD", "fnt", "muse5", "gih", "Ha", "He", "abo"})
