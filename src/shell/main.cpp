@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <cstdio>
 
+#include "app/word_lookup_panel.h"
 #include "chat/chat_address.h"
 #include "engine/data_folder.h"
 #include "shell/form1.h"
@@ -49,7 +50,10 @@ int main(int argc, char** argv) {
     const std::filesystem::path folder = vorlexa::resolveDataFolder(fromCommandLine);
 
     vorlexa::shell::Form1 window;
-    vorlexa::shell::installChat(window, ownAddress);
+    // A double click in the chat's boxes is the result box's look-up, on the selection there.
+    vorlexa::shell::installChat(window, ownAddress, [&window](const vorlexa::FontText& selected) {
+        return vorlexa::app::Text4_dblclick(window.logic(), selected).toolTip;
+    });
     vorlexa::shell::installTextTools(window);
     if (window.start(folder, vorlexa::shippedDataFolder()) == vorlexa::app::StartResult::AlreadyRunning) return 1;
     window.show();
