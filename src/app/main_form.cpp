@@ -337,6 +337,7 @@ void MainForm::Replacet_Click(const FontText& word) {
     panel_.Text2.clear();
     panel_.Text6.clear();
     panel_.listVisible = false;
+    panel_.text1Visible = panel_.text2Visible = panel_.text6Visible = panel_.command2Enabled = true;
     panel_.Command2 = std::string(language() == Language::Armenian ? kSaveCaptionArmenian : kSaveCaptionEnglish);
     view_.stateChanged();
 }
@@ -344,6 +345,7 @@ void MainForm::Replacet_Click(const FontText& word) {
 void MainForm::Command2_Click() {
     if (panel_.Text1.empty()) return;
     if (panel_.Command2 == kSaveCaptionEnglish || panel_.Command2 == kSaveCaptionArmenian) Text2_DblClick();
+    else smallBoxesCommand2();
 }
 
 void MainForm::closePanel() {

@@ -23,6 +23,7 @@ inline const std::string kSpellLexicon =
     "գետ\triver\tn\n"
     "բարի\tkind\ta\n"
     "ևս\talso\tx\n"
+    "և\tand\tx\n"
     "եղբայր\tbrother\tn\n"
     "գյուղ\tvillage\tn\n"
     "քաղաք\tcity\tn\n"
