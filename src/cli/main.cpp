@@ -4,6 +4,7 @@
 
 #include "cli/cli_common.h"
 #include "cli/dict_commands.h"
+#include "cli/spell_commands.h"
 #include "cli/translate_commands.h"
 
 #ifndef VORLEXA_VERSION
@@ -24,6 +25,7 @@ int main(int argc, char** argv) {
     int result = kExitOk;
     addDictCommands(app, options, result);
     addTranslateCommands(app, options, result);
+    addSpellCommands(app, options, result);
 
     try {
         app.parse(argc, argv);

@@ -104,6 +104,9 @@ namespace vorlexa {
 // In a pass the scanner shows the word it is reading in the result box, which holds the text of
 // the pass.
 void Engine::textselection() {
+    // A No stops the ending analysis of the word it was given for; at the first letter of the
+    // next word it has done so, or every later inflected word of the pass would be questioned.
+    if (CurrentWord.size() == 1 && AnswerCode == kAnswerNo) AnswerCode = 0;
     constexpr std::int64_t kFirstSelectedPos = 4;  // the design selects from the fourth character on
     if (ScanPos < kFirstSelectedPos) return;
     // At the word end the delimiter has joined the word; it is not selected.
