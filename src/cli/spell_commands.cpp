@@ -16,7 +16,7 @@
 #include "cli/terminal_host.h"
 #include "engine/engine.h"
 #include "engine/scanner.h"
-#include "spell/suggestions.h"
+#include "spell/spell_pass.h"
 #include "text/font_text.h"
 
 #ifndef VORLEXA_VERSION
@@ -69,15 +69,7 @@ public:
         Questioned w;
         w.start = end - length;
         w.word = e.SourceText.substr(w.start, length);
-        if (suggest) {
-            spell::ArmenianBuckets buckets(e.store.armenian());
-            spell::SpellInput in;
-            in.RawWord = w.word;
-            in.Text2 = w.word;
-            in.text = e.SourceText;
-            in.ScanPos = e.ScanPos;
-            w.suggestions = spell::splch(in, buckets).List1;
-        }
+        if (suggest) w.suggestions = spell::suggestionsHere(e, w.word).List1;
         questioned.push_back(std::move(w));
         return kAnswerNo;
     }

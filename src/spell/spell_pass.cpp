@@ -16,6 +16,16 @@ void startPass(Engine& engine, bool suggest, const WriteText3& writeText3) {
     writeText3(engine.host.resultText() + " ");
 }
 
+SpellResult suggestionsHere(const Engine& engine, const FontText& word) {
+    ArmenianBuckets buckets(engine.store.armenian());
+    SpellInput input;
+    input.RawWord = word;
+    input.Text2 = word;
+    input.text = engine.SourceText;
+    input.ScanPos = engine.ScanPos;
+    return splch(input, buckets);
+}
+
 SpellResult correctUnknownWord(Engine& engine) {
     SpellResult result;
     if (engine.checked(MenuItem::DSO)) {
@@ -23,13 +33,7 @@ SpellResult correctUnknownWord(Engine& engine) {
         result.Text2 = engine.RawWord;
     } else {
         engine.host.setBusy(true);
-        ArmenianBuckets buckets(engine.store.armenian());
-        SpellInput input;
-        input.RawWord = engine.RawWord;
-        input.Text2 = engine.RawWord;
-        input.text = engine.SourceText;
-        input.ScanPos = engine.ScanPos;
-        result = splch(input, buckets);
+        result = suggestionsHere(engine, engine.RawWord);
         engine.host.setBusy(false);
     }
     if (auto* panel = dynamic_cast<SpellPanel*>(&engine.host))

@@ -33,6 +33,10 @@ inline void DSO_Click(Engine& engine, const WriteText3& writeText3) { startPass(
 // hourglass, then the result goes to the window. Returns what was shown.
 SpellResult correctUnknownWord(Engine& engine);
 
+// The suggestions splch makes for `word` where the scanner stands, for a host that answers the
+// pass's question itself (the command line, the benchmark).
+SpellResult suggestionsHere(const Engine& engine, const FontText& word);
+
 // Command2 during a pass: the word in question (Text1) is replaced by Text2 in the text of the
 // pass, and the pass goes on from the start of the replacement, so the new spelling is checked
 // too. A replacement equal to the word leaves it as with skipInPass.
