@@ -28,6 +28,20 @@ SpellResult suggestionsHere(const Engine& engine, const FontText& word) {
 
 SpellResult correctUnknownWord(Engine& engine) {
     SpellResult result;
+    // The dialect repair has rewritten the result box, and the pass would put its own text back
+    // at the end: it starts over on the repaired text instead. Words answered No are not asked
+    // about again, and the lone "ա" is usually gone.
+    if (engine.RawWord == "ա"_ft) {
+        FontText repaired = engine.host.resultText();
+        if (!repaired.empty() && repaired.back() != ' ') repaired += ' ';
+        if (!repaired.empty() && repaired != engine.SourceText) {
+            engine.SourceText = std::move(repaired);
+            engine.ScanPos = 0;  // the scanner finishes this turn and goes on from the first character
+            engine.AnswerCode = 0;
+            engine.CurrentWord.clear();
+            return result;
+        }
+    }
     if (engine.checked(MenuItem::DSO)) {
         result.Text1 = engine.RawWord;
         result.Text2 = engine.RawWord;

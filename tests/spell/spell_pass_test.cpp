@@ -34,6 +34,7 @@ class PassFixture {
 public:
     explicit PassFixture(const std::string& armenianEnglish = kSpellLexicon) {
         folder_.write("source/lexicon/en-hy.tsv", "house\tտուն\tn\nbig\tմեծ\ta\n");
+        folder_.write("source/pairs/uxxumy.tsv", "\" ա \"\t\" է \"\n");
         folder_.write("source/lexicon/hy-en.tsv", armenianEnglish);
         const CompileReport report = buildDataFolder(folder_ / "source", folder_ / "data");
         for (const auto& d : report.diagnostics) ADD_FAILURE() << d.str();
@@ -168,6 +169,19 @@ TEST(SpellPass, LoneAOffersTheDialectRepairAndThenItsCorrection) {
     spell::replaceInPass(*f.engine, f.host.shown[0].Text1, f.host.shown[0].Text2);
     EXPECT_EQ(f.engine->state, RunState::Idle);
     EXPECT_TRUE(toUtf8(f.host.result).starts_with("մեծ է:"));
+}
+
+TEST(SpellPass, DialectRepairIsKeptAndThePassGoesOverTheRepairedText) {
+    PassFixture f;
+    f.host.dialectAnswer = kAnswerYes;
+    f.pass("մեծ ա քիրք:");
+    // " ա " became " է "; the pass went over the repaired text and stopped at the next word.
+    ASSERT_EQ(f.engine->state, RunState::Waiting);
+    EXPECT_EQ(f.questionedWords(), (std::vector<std::string>{"ա", "քիրք"}));
+    ASSERT_EQ(f.host.shown.size(), 1u);
+    spell::replaceInPass(*f.engine, f.host.shown[0].Text1, fromUtf8("գիրք"));
+    EXPECT_EQ(f.engine->state, RunState::Idle);
+    EXPECT_TRUE(toUtf8(f.host.result).starts_with("մեծ է գիրք:")) << toUtf8(f.host.result);
 }
 
 TEST(SpellPass, DialectQuestionIsOnlyForTheLoneA) {
