@@ -2,29 +2,18 @@
 // out from the letter tables and the lexicon.
 #include <gtest/gtest.h>
 
-#include "dictionary_tools/lexicon_compiler.h"
-#include "support/run_cli.h"
-#include "support/temp_folder.h"
+#include "support/cli_data_test.h"
 
-using vorlexa::test::runCli;
 using vorlexa::test::shellQuote;
 
 namespace {
 
-class SpellCli : public ::testing::Test {
+class SpellCli : public vorlexa::test::CliDataTest {
 protected:
     void SetUp() override {
-        dir.write("src/lexicon/en-hy.tsv", "house\tտուն\tn\nbig\tմեծ\ta\n");
-        dir.write("src/lexicon/hy-en.tsv",
+        buildData("house\tտուն\tn\nbig\tմեծ\ta\n",
                   "մեծ\tbig\ta\nգիրք\tbook\tn\nգետ\triver\tn\nգյուղ\tvillage\tn\nև\tand\tc\nբարի\tgood\ta\n");
-        const auto report = vorlexa::buildDataFolder(dir / "src", dir / "data");
-        ASSERT_TRUE(report.ok());
     }
-    std::string data() const { return "--data-dir " + shellQuote((dir / "data").string()) + " "; }
-    vorlexa::test::CliResult run(const std::string& args, const std::string& input = "") {
-        return runCli(data() + args, input, dir.path());
-    }
-    vorlexa::test::TempFolder dir;
 };
 
 TEST_F(SpellCli, ThreeMisspellingsOfThreePassesAreQuestionedWithTheirRightSpelling) {
