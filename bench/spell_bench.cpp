@@ -22,9 +22,9 @@ using namespace vorlexa;
 using namespace vorlexa::literals;
 
 constexpr std::size_t kShortestWord = 2;
-constexpr std::size_t kLongestWord = 20;   // the width of a key
-constexpr int kPageWords = 500;            // a page of running text
-constexpr int kPageMisspelt = 25;          // one word in twenty
+constexpr std::size_t kLongestWord = 20;  // the width of a key
+constexpr int kPageWords = 500;           // a page of running text
+constexpr int kPageMisspelt = 25;         // one word in twenty
 
 const std::filesystem::path kShippedData = VORLEXA_BUILT_DATA_DIR;
 const std::filesystem::path kShippedLexicon = VORLEXA_SOURCE_DATA_DIR "/lexicon/hy-en.tsv";
@@ -45,7 +45,8 @@ const std::map<std::size_t, std::vector<FontText>>& keysByLength() {
         while (std::getline(in, line)) {
             if (line.empty() || line[0] == '#') continue;
             const FontText key = fromUtf8(line.substr(0, line.find('\t')));
-            if (key.find(' ') == FontText::npos && hasArmenianLetter(key)) out[key.size()].push_back(key);
+            if (key.find(' ') == FontText::npos && hasArmenianLetter(key))
+                out[key.size()].push_back(key);
         }
         return out;
     }();
@@ -73,8 +74,10 @@ FontText wordOfLength(std::size_t n) {
         for (const FontText& key : it->second)
             if (FontText w = misspelt(key); !w.empty()) return w;
     FontText joined;
-    for (auto it = keys.rbegin(); it != keys.rend() && joined.size() < n; ++it) joined += it->second.front();
-    return misspelt(joined.substr(0, n)).empty() ? joined.substr(0, n) : misspelt(joined.substr(0, n));
+    for (auto it = keys.rbegin(); it != keys.rend() && joined.size() < n; ++it)
+        joined += it->second.front();
+    return misspelt(joined.substr(0, n)).empty() ? joined.substr(0, n)
+                                                 : misspelt(joined.substr(0, n));
 }
 
 void BM_SuggestionsForOneWord(benchmark::State& state) {
@@ -101,7 +104,7 @@ BENCHMARK(BM_SuggestionsForOneWord)
 
 // Answers every "To be corrected?" with the suggestions made and a No, as the command line does.
 class PageHost : public NullHost {
-public:
+  public:
     Engine* engine = nullptr;
     int questioned = 0;
     int ask(const Question& q) override {
@@ -139,21 +142,24 @@ FontText page(Engine& engine, PageHost& host) {
     constexpr int kStride = kPageWords / kPageMisspelt;
     int questioned = 0;
     for (int offset = 0; offset < kStride && questioned < kPageMisspelt; ++offset)
-        for (std::size_t i = static_cast<std::size_t>(offset); i < words.size() && questioned < kPageMisspelt;
-             i += kStride) {
+        for (std::size_t i = static_cast<std::size_t>(offset);
+             i < words.size() && questioned < kPageMisspelt; i += kStride) {
             const FontText before = words[i];
             FontText w = misspelt(before);
             if (w.empty()) continue;
             words[i] = w;
             const int now = questionedIn(joinedWords(words));
-            if (now > questioned) questioned = now;
-            else words[i] = before;
+            if (now > questioned)
+                questioned = now;
+            else
+                words[i] = before;
         }
     return joinedWords(words);
 }
 
 void BM_SpellCheckPassOverAPage(benchmark::State& state) {
-    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "vorlexa-spell-bench";
+    const std::filesystem::path folder =
+        std::filesystem::temp_directory_path() / "vorlexa-spell-bench";
     std::filesystem::create_directories(folder);
     PageHost host;
     Engine engine(shippedStore(), folder, host);

@@ -11,7 +11,7 @@ namespace {
 
 // Find and Replace over the window's result box and message boxes.
 class BoxView : public text_tools::FindReplaceView {
-public:
+  public:
     BoxView(Form1View& view, bool armenian) : view_(view), armenian_(armenian) {}
     bool armenianInterface() const override { return armenian_; }
     FontText text4() const override { return view_.text4(); }
@@ -19,7 +19,8 @@ public:
     FontText text4SelectedText() const override {
         const TextSelection sel = view_.text4Selection();
         const FontText all = view_.text4();
-        const auto start = static_cast<std::size_t>(std::clamp(sel.start, 0, static_cast<int>(all.size())));
+        const auto start =
+            static_cast<std::size_t>(std::clamp(sel.start, 0, static_cast<int>(all.size())));
         return all.substr(start, static_cast<std::size_t>(std::max(sel.length, 0)));
     }
     void selectText4(std::int64_t start, std::int64_t length) override {
@@ -28,9 +29,11 @@ public:
     int ask(const Question& q) override {
         return view_.ask(q, armenian_ ? Language::Armenian : Language::English);
     }
-    void notify(const Notice& n) override { view_.notify(n, armenian_ ? Language::Armenian : Language::English); }
+    void notify(const Notice& n) override {
+        view_.notify(n, armenian_ ? Language::Armenian : Language::English);
+    }
 
-private:
+  private:
     Form1View& view_;
     bool armenian_;
 };
@@ -102,8 +105,9 @@ void MainForm::Replacce_click() {
     text_tools::SmallBoxes b = smallBoxes();
     const BoxView box(view_, language() == Language::Armenian);
     const bool inPass = engine_ && engine_->SpellMode.isSet();
-    text_tools::Replacce_click(b, view_.text4(), box.text4SelectedText(), engine_ ? engine_->RawWord : FontText{},
-                               inPass, language() == Language::Armenian);
+    text_tools::Replacce_click(b, view_.text4(), box.text4SelectedText(),
+                               engine_ ? engine_->RawWord : FontText{}, inPass,
+                               language() == Language::Armenian);
     applySmallBoxes(b);
     view_.stateChanged();
 }
@@ -115,7 +119,8 @@ void MainForm::showSuggestions(const spell::SpellResult& result) {
     b.Text2 = result.Text2;
     // The word in question stands selected in Text4; the lone "ա" comes with a character either
     // side, which the selection would cut off again.
-    text_tools::Replacce_click(b, view_.text4(), result.Text1, engine_ ? engine_->RawWord : FontText{}, true,
+    text_tools::Replacce_click(b, view_.text4(), result.Text1,
+                               engine_ ? engine_->RawWord : FontText{}, true,
                                language() == Language::Armenian);
     applySmallBoxes(b);
     view_.stateChanged();
@@ -137,7 +142,9 @@ void MainForm::Text1_DblClick() {
     view_.stateChanged();
 }
 
-void MainForm::Text4_Change() { find_.FindIgnoreCase = text_tools::mainlyLatin(view_.text4()); }
+void MainForm::Text4_Change() {
+    find_.FindIgnoreCase = text_tools::mainlyLatin(view_.text4());
+}
 
 void MainForm::smallBoxesCommand2() {
     text_tools::SmallBoxes b = smallBoxes();
@@ -155,7 +162,8 @@ void MainForm::smallBoxesCommand2() {
     find_.inPass = engine_ && engine_->SpellMode.isSet();
     const text_tools::Command2Action action = text_tools::Command2_Click(b, find_, box);
     applySmallBoxes(b);
-    if (action == text_tools::Command2Action::Replaced && engine_) engine_->OutputText = view_.text4();
+    if (action == text_tools::Command2Action::Replaced && engine_)
+        engine_->OutputText = view_.text4();
     if (action == text_tools::Command2Action::Save) Text2_DblClick();
     view_.stateChanged();
 }

@@ -39,7 +39,8 @@ constexpr std::size_t kLongestWord = 64;
 
 // The version line editors read before they talk to an external spelling program.
 const std::string kIspellBanner =
-    std::string("@(#) International Ispell Version 3.1.20 (but really vorlexa-cli ") + VORLEXA_VERSION + ")";
+    std::string("@(#) International Ispell Version 3.1.20 (but really vorlexa-cli ") +
+    VORLEXA_VERSION + ")";
 
 struct SpellArgs {
     std::vector<std::string> files;
@@ -49,13 +50,13 @@ struct SpellArgs {
 
 // A word the pass questioned.
 struct Questioned {
-    FontText word;                     // as it stands in the text
-    std::size_t start = 0;             // 0-based, in the text of the pass
+    FontText word;          // as it stands in the text
+    std::size_t start = 0;  // 0-based, in the text of the pass
     std::vector<FontText> suggestions;
 };
 
 class PassHost : public CliHost {
-public:
+  public:
     Engine* engine = nullptr;
     bool suggest = true;
     std::vector<Questioned> questioned;
@@ -102,7 +103,7 @@ void forEachRun(std::string_view text, Visit visit) {
 }
 
 class SpellSession {
-public:
+  public:
     SpellSession(const std::filesystem::path& folder, bool suggest) {
         store_.open(folder);
         engine_ = std::make_unique<Engine>(store_, folder, host_);
@@ -116,7 +117,8 @@ public:
         FontText passText = text;
         std::vector<Questioned> tooLong;
         forEachRun(text, [&](std::size_t start, std::size_t end) {
-            if (characterCount(std::string_view(text).substr(start, end - start)) <= kLongestWord) return;
+            if (characterCount(std::string_view(text).substr(start, end - start)) <= kLongestWord)
+                return;
             tooLong.push_back({text.substr(start, end - start), start, {}});
             std::fill(passText.begin() + static_cast<std::ptrdiff_t>(start),
                       passText.begin() + static_cast<std::ptrdiff_t>(end), ' ');
@@ -126,12 +128,13 @@ public:
         const std::vector<std::size_t> map = foldedToOriginal(passText);
         for (Questioned& w : found) w.start = map[std::min(w.start, map.size() - 1)];
         found.insert(found.end(), tooLong.begin(), tooLong.end());
-        std::stable_sort(found.begin(), found.end(),
-                         [](const Questioned& a, const Questioned& b) { return a.start < b.start; });
+        std::stable_sort(found.begin(), found.end(), [](const Questioned& a, const Questioned& b) {
+            return a.start < b.start;
+        });
         return found;
     }
 
-private:
+  private:
     // Where each character of the pass's text came from: the run folds each double blank into one.
     static std::vector<std::size_t> foldedToOriginal(const FontText& text) {
         std::vector<std::size_t> map;
@@ -165,7 +168,8 @@ std::string shownWord(const FontText& word) {
     if (n <= kLongestWord) return toUtf8(word);
     std::size_t bytes = 0;
     for (std::size_t c = 0; c < kLongestWord && bytes < word.size(); ++c)
-        bytes += static_cast<unsigned char>(word[bytes]) == font::kEscape ? 1 + font::kEscapeDigits : 1;
+        bytes +=
+            static_cast<unsigned char>(word[bytes]) == font::kEscape ? 1 + font::kEscapeDigits : 1;
     return toUtf8(word.substr(0, bytes)) + "... (" + std::to_string(n) + " letters)";
 }
 
@@ -196,7 +200,8 @@ int report(const GlobalOptions& options, const SpellArgs& args) {
     const auto folder = openDataFolder(options);
     if (!folder) return kSpellError;
     SpellSession session(*folder, !args.noSuggestions);
-    const std::vector<std::string> files = args.files.empty() ? std::vector<std::string>{"-"} : args.files;
+    const std::vector<std::string> files =
+        args.files.empty() ? std::vector<std::string>{"-"} : args.files;
     bool anyQuestioned = false;
     for (const std::string& name : files) {
         const auto utf8 = readAll(name);
@@ -207,7 +212,8 @@ int report(const GlobalOptions& options, const SpellArgs& args) {
         Utf8Report bad;
         const FontText text = fromUtf8(*utf8, &bad);
         if (bad.invalidSequences > 0) {
-            printError(name + ": not UTF-8 text (bad byte at offset " + std::to_string(bad.firstInvalidOffset) + ")");
+            printError(name + ": not UTF-8 text (bad byte at offset " +
+                       std::to_string(bad.firstInvalidOffset) + ")");
             return kSpellError;
         }
         // Line ends of the source pane are CR LF; a lone LF becomes one, which moves no column.
@@ -233,7 +239,8 @@ int report(const GlobalOptions& options, const SpellArgs& args) {
         for (const Questioned& w : session.pass(paneText)) {
             anyQuestioned = true;
             const std::size_t at = toInput[std::min(w.start, toInput.size() - 1)];
-            const auto line = std::upper_bound(lineStarts.begin(), lineStarts.end(), at) - lineStarts.begin();
+            const auto line =
+                std::upper_bound(lineStarts.begin(), lineStarts.end(), at) - lineStarts.begin();
             const std::size_t lineStart = lineStarts[static_cast<std::size_t>(line - 1)];
             if (counted < lineStart) {
                 counted = lineStart;
@@ -242,7 +249,9 @@ int report(const GlobalOptions& options, const SpellArgs& args) {
             column += characterCount(std::string_view(text).substr(counted, at - counted));
             counted = at;
             std::cout << shown << ':' << line << ':' << column << ": " << shownWord(w.word) << ": "
-                      << (w.suggestions.empty() ? std::string("(no suggestions)") : joined(w.suggestions)) << '\n';
+                      << (w.suggestions.empty() ? std::string("(no suggestions)")
+                                                : joined(w.suggestions))
+                      << '\n';
         }
     }
     std::cout.flush();
@@ -282,21 +291,32 @@ int pipeMode(const GlobalOptions& options, const SpellArgs& args) {
         std::size_t lead = 0;
         if (!line.empty()) {
             switch (line[0]) {
-                case '!': terse = true; continue;
-                case '%': terse = false; continue;
+                case '!':
+                    terse = true;
+                    continue;
+                case '%':
+                    terse = false;
+                    continue;
                 case '*':
                 case '@':
-                case '&': accepted.insert(foldArmenianCase(fromUtf8(line.substr(1)))); continue;
+                case '&':
+                    accepted.insert(foldArmenianCase(fromUtf8(line.substr(1))));
+                    continue;
                 case '#':
                 case '~':
                 case '+':
-                case '-': continue;  // dictionary saving and text modes: nothing to do
-                case '^': lead = 1; break;
-                default: break;
+                case '-':
+                    continue;  // dictionary saving and text modes: nothing to do
+                case '^':
+                    lead = 1;
+                    break;
+                default:
+                    break;
             }
         }
         const FontText text = fromUtf8(std::string_view(line).substr(lead));
-        const std::vector<Questioned> wrong = text.empty() ? std::vector<Questioned>{} : session.pass(text);
+        const std::vector<Questioned> wrong =
+            text.empty() ? std::vector<Questioned>{} : session.pass(text);
         for (const Token& t : tokens(text, lead)) {
             const auto hit = std::find_if(wrong.begin(), wrong.end(), [&](const Questioned& w) {
                 return foldArmenianCase(w.word) == foldArmenianCase(t.word);
@@ -306,8 +326,8 @@ int pipeMode(const GlobalOptions& options, const SpellArgs& args) {
             } else if (hit->suggestions.empty()) {
                 std::cout << "# " << toUtf8(t.word) << ' ' << t.offset << '\n';
             } else {
-                std::cout << "& " << toUtf8(t.word) << ' ' << hit->suggestions.size() << ' ' << t.offset << ": "
-                          << joined(hit->suggestions) << '\n';
+                std::cout << "& " << toUtf8(t.word) << ' ' << hit->suggestions.size() << ' '
+                          << t.offset << ": " << joined(hit->suggestions) << '\n';
             }
         }
         std::cout << '\n' << std::flush;
@@ -319,11 +339,14 @@ int pipeMode(const GlobalOptions& options, const SpellArgs& args) {
 
 void addSpellCommands(CLI::App& app, const GlobalOptions& options, int& result) {
     auto args = std::make_shared<SpellArgs>();
-    CLI::App* sp = app.add_subcommand(
-        "spell", "Report the words the spell checker questions, with suggestions (exit 1 when there are any)");
+    CLI::App* sp = app.add_subcommand("spell",
+                                      "Report the words the spell checker questions, with "
+                                      "suggestions (exit 1 when there are any)");
     sp->add_option("FILE", args->files, "UTF-8 text files (default: standard input)");
-    sp->add_flag("-a", args->pipe, "speak the pipe protocol of an editor's external spelling program");
-    sp->add_flag("--no-suggestions", args->noSuggestions, "question the words without making suggestions");
+    sp->add_flag("-a", args->pipe,
+                 "speak the pipe protocol of an editor's external spelling program");
+    sp->add_flag("--no-suggestions", args->noSuggestions,
+                 "question the words without making suggestions");
     // An editor starts its spelling program with options of its own (-m, -B, -d LANG, -vv...):
     // they are taken and ignored, but for the version query.
     sp->allow_extras();

@@ -27,13 +27,13 @@ constexpr std::array kMainSwaps = {
 };
 
 constexpr std::array kSecondSwaps = {
-    LetterSwap{"բ"_ft, "պ"_ft}, LetterSwap{"ա"_ft, "ո"_ft},  LetterSwap{"ե"_ft, "ա"_ft},
-    LetterSwap{"դ"_ft, "տ"_ft}, LetterSwap{"թ"_ft, "տ"_ft},  LetterSwap{"ժ"_ft, "ջ"_ft},
+    LetterSwap{"բ"_ft, "պ"_ft},  LetterSwap{"ա"_ft, "ո"_ft}, LetterSwap{"ե"_ft, "ա"_ft},
+    LetterSwap{"դ"_ft, "տ"_ft},  LetterSwap{"թ"_ft, "տ"_ft}, LetterSwap{"ժ"_ft, "ջ"_ft},
     LetterSwap{"խ"_ft, "կհ"_ft}, LetterSwap{"ծ"_ft, "ց"_ft}, LetterSwap{"կ"_ft, "ք"_ft},
-    LetterSwap{"ձ"_ft, "ց"_ft}, LetterSwap{"ճ"_ft, "չ"_ft},  LetterSwap{"շ"_ft, "չ"_ft},
-    LetterSwap{"չ"_ft, "ջ"_ft}, LetterSwap{"պ"_ft, "բ"_ft},  LetterSwap{"ջ"_ft, "չ"_ft},
-    LetterSwap{"տ"_ft, "դ"_ft}, LetterSwap{"ր"_ft, "ռ"_ft},  LetterSwap{"ց"_ft, "ձ"_ft},
-    LetterSwap{"փ"_ft, "պ"_ft}, LetterSwap{"ք"_ft, "կ"_ft},
+    LetterSwap{"ձ"_ft, "ց"_ft},  LetterSwap{"ճ"_ft, "չ"_ft}, LetterSwap{"շ"_ft, "չ"_ft},
+    LetterSwap{"չ"_ft, "ջ"_ft},  LetterSwap{"պ"_ft, "բ"_ft}, LetterSwap{"ջ"_ft, "չ"_ft},
+    LetterSwap{"տ"_ft, "դ"_ft},  LetterSwap{"ր"_ft, "ռ"_ft}, LetterSwap{"ց"_ft, "ձ"_ft},
+    LetterSwap{"փ"_ft, "պ"_ft},  LetterSwap{"ք"_ft, "կ"_ft},
 };
 
 constexpr std::array kThirdSwaps = {
@@ -69,12 +69,24 @@ bool isConsonant(char c, bool ligatureCounts) {
 
 }  // namespace
 
-std::span<const LetterSwap> mainSwaps() { return kMainSwaps; }
-std::span<const LetterSwap> secondSwaps() { return kSecondSwaps; }
-std::span<const LetterSwap> thirdSwaps() { return kThirdSwaps; }
-std::span<const std::string_view> vowelPairs() { return kVowelPairs; }
-std::span<const std::string_view> consonants() { return kConsonants; }
-std::span<const std::string_view> insertedVowels() { return kInsertedVowels; }
+std::span<const LetterSwap> mainSwaps() {
+    return kMainSwaps;
+}
+std::span<const LetterSwap> secondSwaps() {
+    return kSecondSwaps;
+}
+std::span<const LetterSwap> thirdSwaps() {
+    return kThirdSwaps;
+}
+std::span<const std::string_view> vowelPairs() {
+    return kVowelPairs;
+}
+std::span<const std::string_view> consonants() {
+    return kConsonants;
+}
+std::span<const std::string_view> insertedVowels() {
+    return kInsertedVowels;
+}
 
 // The 930 pairs: 30 first letters (the list less "և") by 31 second letters.
 bool isConsonantPair(std::string_view two) {

@@ -36,7 +36,8 @@ SpellResult correctUnknownWord(Engine& engine) {
         if (!repaired.empty() && repaired.back() != ' ') repaired += ' ';
         if (!repaired.empty() && repaired != engine.SourceText) {
             engine.SourceText = std::move(repaired);
-            engine.ScanPos = 0;  // the scanner finishes this turn and goes on from the first character
+            engine.ScanPos =
+                0;  // the scanner finishes this turn and goes on from the first character
             engine.AnswerCode = 0;
             engine.CurrentWord.clear();
             return result;
@@ -105,7 +106,8 @@ void skipInPass(Engine& engine) {
 int CorrectorWorning(Engine& engine, const WriteText3& writeText3) {
     engine.AnswerCode = 0;
     Question q;
-    q.text = {"Would you like to check spelling?", FontText("Կկամենայի՞ք կատարել սխալների ուղղում:"_ft)};
+    q.text = {"Would you like to check spelling?",
+              FontText("Կկամենայի՞ք կատարել սխալների ուղղում:"_ft)};
     q.title = {"Attention", FontText("Ուշադրություն"_ft)};
     q.buttons = Buttons::YesNo;
     const int answer = engine.host.ask(q);
@@ -125,10 +127,12 @@ void Engine::textselection() {
     // A No stops the ending analysis of the word it was given for; at the first letter of the
     // next word it has done so, or every later inflected word of the pass would be questioned.
     if (CurrentWord.size() == 1 && AnswerCode == kAnswerNo) AnswerCode = 0;
-    constexpr std::int64_t kFirstSelectedPos = 4;  // the design selects from the fourth character on
+    constexpr std::int64_t kFirstSelectedPos =
+        4;  // the design selects from the fourth character on
     if (ScanPos < kFirstSelectedPos) return;
     // At the word end the delimiter has joined the word; it is not selected.
-    const bool atEnd = !CurrentWord.empty() && isRawWordDelimiter(static_cast<unsigned char>(CurrentWord.back()));
+    const bool atEnd =
+        !CurrentWord.empty() && isRawWordDelimiter(static_cast<unsigned char>(CurrentWord.back()));
     const auto length = static_cast<int>(CurrentWord.size()) - (atEnd ? 1 : 0);
     const auto last = static_cast<int>(ScanPos) - (atEnd ? 1 : 0);
     host.selectResultText(last - length + 1, length);

@@ -15,7 +15,7 @@ namespace vorlexa::spell {
 // A host that shows the word in question and its suggestions implements this beside Host; a
 // host without it gets Host::openAddWordPanel with the word.
 class SpellPanel {
-public:
+  public:
     virtual ~SpellPanel() = default;
     virtual void showSuggestions(const SpellResult& result) = 0;
 };
@@ -26,8 +26,12 @@ using WriteText3 = std::function<void(const FontText&)>;
 // SSO_Click (suggest = true) and DSO_Click (false): start a pass over the text of Text4. SSO
 // unchecks DSO and DSO checks it, so that DSO checked means no suggestions are made.
 void startPass(Engine& engine, bool suggest, const WriteText3& writeText3);
-inline void SSO_Click(Engine& engine, const WriteText3& writeText3) { startPass(engine, true, writeText3); }
-inline void DSO_Click(Engine& engine, const WriteText3& writeText3) { startPass(engine, false, writeText3); }
+inline void SSO_Click(Engine& engine, const WriteText3& writeText3) {
+    startPass(engine, true, writeText3);
+}
+inline void DSO_Click(Engine& engine, const WriteText3& writeText3) {
+    startPass(engine, false, writeText3);
+}
 
 // The Yes of the pass's question about RawWord: splch (unless DSO is checked) under the
 // hourglass, then the result goes to the window. Returns what was shown.

@@ -55,8 +55,8 @@ constexpr std::array kPairsAtStart = {
 }  // namespace
 
 std::size_t roundCount(std::size_t n) {
-    constexpr std::size_t kShortWord = 4;   // below: four rounds a letter
-    constexpr std::size_t kMiddleWord = 10; // below: the square of the length
+    constexpr std::size_t kShortWord = 4;    // below: four rounds a letter
+    constexpr std::size_t kMiddleWord = 10;  // below: the square of the length
     if (n < kShortWord) return 4 * n;
     if (n < kMiddleWord) return n * n;
     return 3 * n;
@@ -101,7 +101,8 @@ void confusableLetters(Round& round) {
     const std::span<const LetterSwap> table = mainSwaps();
     for (std::size_t i = 0; i < w.size(); ++i) {
         const std::string_view letter(&w[i], 1);
-        const std::string_view next = i + 1 < w.size() ? std::string_view(&w[i + 1], 1) : std::string_view{};
+        const std::string_view next =
+            i + 1 < w.size() ? std::string_view(&w[i + 1], 1) : std::string_view{};
         if (letter == "ո"_ft) {
             // "ո" before anything but "ւ" may be "ու" or "օ".
             if (next == "ւ"_ft) continue;
@@ -129,9 +130,13 @@ void confusableLetters(Round& round) {
     }
 }
 
-void secondChoiceLetters(Round& round) { tablePass(round, secondSwaps()); }
+void secondChoiceLetters(Round& round) {
+    tablePass(round, secondSwaps());
+}
 
-void thirdChoiceLetters(Round& round) { tablePass(round, thirdSwaps()); }
+void thirdChoiceLetters(Round& round) {
+    tablePass(round, thirdSwaps());
+}
 
 void letterPairs(Round& round) {
     const FontText& w = round.word;
@@ -140,7 +145,8 @@ void letterPairs(Round& round) {
         for (const PairAtStart& p : kPairsAtStart) {
             if (pair != p.pair) continue;
             // Away from the start the pair takes the letter a table wrote last, on purpose.
-            add(round.list, replaced(w, i, 2, i == 0 ? p.letter : std::string_view(round.lastChosen)));
+            add(round.list,
+                replaced(w, i, 2, i == 0 ? p.letter : std::string_view(round.lastChosen)));
         }
         if (pair == "եվ"_ft && w != "հոգեվարք"_ft) add(round.list, replaced(w, i, 2, "և"_ft));
         if (pair == "ւո"_ft) add(round.list, replaced(w, i, 2, "ու"_ft));
@@ -148,7 +154,8 @@ void letterPairs(Round& round) {
         if (isVowelPair(pair))
             for (const std::string_view c : consonants()) add(round.list, replaced(w, i + 1, 0, c));
         if (isConsonantPair(pair))
-            for (const std::string_view v : insertedVowels()) add(round.list, replaced(w, i + 1, 0, v));
+            for (const std::string_view v : insertedVowels())
+                add(round.list, replaced(w, i + 1, 0, v));
     }
 }
 
@@ -156,8 +163,10 @@ void swappedGlide(Round& round) {
     const FontText& w = round.word;
     for (std::size_t i = 0; i + 2 < w.size(); ++i) {
         const std::string_view three = std::string_view(w).substr(i, 3);
-        if (three == "յու"_ft) add(round.list, replaced(w, i, 3, "ույ"_ft));
-        else if (three == "ույ"_ft) add(round.list, replaced(w, i, 3, "յու"_ft));
+        if (three == "յու"_ft)
+            add(round.list, replaced(w, i, 3, "ույ"_ft));
+        else if (three == "ույ"_ft)
+            add(round.list, replaced(w, i, 3, "յու"_ft));
     }
 }
 
@@ -187,7 +196,9 @@ Candidates generateCandidates(const SpellInput& input) {
     // The lone "ա" is the dialect's "է": the offer is "է" with the character after the word,
     // in place of the word with one character either side.
     if (word == "ա"_ft) {
-        const auto at = [](std::int64_t pos) { return static_cast<std::size_t>(std::max<std::int64_t>(pos, 1)); };
+        const auto at = [](std::int64_t pos) {
+            return static_cast<std::size_t>(std::max<std::int64_t>(pos, 1));
+        };
         c.Text2 = FontText(" է"_ft) + FontText(mid(input.text, at(input.ScanPos), 1));
         c.Text1 = FontText(mid(input.text, at(input.ScanPos - 2), 3));
         c.Text2Set = true;
@@ -246,11 +257,13 @@ void sblik1(const FontText& word, ArmenianBuckets& buckets, std::vector<FontText
     for (const FontText& key : keys) {
         if (!key.empty() && key.back() == lastOfWord) ++counter;
         const bool sameStart = std::string_view(key).substr(0, 2) == start;
-        const auto difference = key.size() > word.size() ? key.size() - word.size() : word.size() - key.size();
+        const auto difference =
+            key.size() > word.size() ? key.size() - word.size() : word.size() - key.size();
         const bool nearLength = difference < 2;
         if (word.size() > kShortWordLength) {
             const double longer = static_cast<double>(std::max(key.size(), word.size()));
-            if (static_cast<double>(counter) / longer * 100.0 >= kNearWordShare && sameStart && nearLength) {
+            if (static_cast<double>(counter) / longer * 100.0 >= kNearWordShare && sameStart &&
+                nearLength) {
                 add(list, key);
                 counter = 0;
             }
@@ -261,7 +274,8 @@ void sblik1(const FontText& word, ArmenianBuckets& buckets, std::vector<FontText
     }
 }
 
-void sblik(std::vector<FontText>& list, FontText& WordTail, FontText& Text2, ArmenianBuckets& buckets) {
+void sblik(std::vector<FontText>& list, FontText& WordTail, FontText& Text2,
+           ArmenianBuckets& buckets) {
     std::vector<FontText> kept;
     for (FontText& item : list) {
         if (!buckets.holds(item)) continue;
@@ -292,7 +306,8 @@ SpellResult splch(const SpellInput& input, ArmenianBuckets& buckets) {
     const auto first = input.RawWord.empty() ? 0 : static_cast<unsigned char>(input.RawWord[0]);
     if (font::isCapital(first)) {
         const auto capitalise = [](FontText& s) {
-            if (!s.empty()) s[0] = static_cast<char>(font::toCapital(static_cast<unsigned char>(s[0])));
+            if (!s.empty())
+                s[0] = static_cast<char>(font::toCapital(static_cast<unsigned char>(s[0])));
         };
         capitalise(result.Text2);
         for (FontText& item : c.List1) capitalise(item);

@@ -33,22 +33,23 @@ inline constexpr double kNearWordShare = 60.0;
 // The two-letter buckets of the Armenian dictionary: the keys of each column in chain order, up
 // to the "null" record that closes it. A column is read from the file once, when first needed.
 class ArmenianBuckets {
-public:
-    explicit ArmenianBuckets(const RecordFile& armenianDictionary) : dictionary_(armenianDictionary) {}
+  public:
+    explicit ArmenianBuckets(const RecordFile& armenianDictionary)
+        : dictionary_(armenianDictionary) {}
     const std::vector<FontText>& keysOf(std::string_view word);
     // True when the bucket of the word holds the word or the word plus "յ" before its end.
     bool holds(std::string_view word);
 
-private:
+  private:
     const RecordFile& dictionary_;
     std::unordered_map<int, std::vector<FontText>> columns_;
 };
 
 // What splch needs besides the word.
 struct SpellInput {
-    FontText RawWord;       // the word as typed, with its capital
-    FontText Text2;         // the replacement shown before suggestions are made
-    FontText text;          // the text of the pass, for the lone "ա"
+    FontText RawWord;          // the word as typed, with its capital
+    FontText Text2;            // the replacement shown before suggestions are made
+    FontText text;             // the text of the pass, for the lone "ա"
     std::int64_t ScanPos = 0;  // the position of the delimiter after the word in `text`
 };
 
@@ -63,7 +64,7 @@ struct SpellResult {
 // itself, hayqer1, the letter drops, the rounds of six passes).
 struct Candidates {
     std::vector<FontText> List1;
-    FontText word;      // the stripped, lower-cased word the rounds began with
+    FontText word;  // the stripped, lower-cased word the rounds began with
     FontText WordTail;
     FontText Text1, Text2;  // set by the lone "ա" only
     bool Text2Set = false;
@@ -82,12 +83,12 @@ struct Round {
     FontText lastChosen;
 };
 void AditLetterRemove(const FontText& word, std::vector<FontText>& list);  // an extra letter
-void confusableLetters(Round& round);   // pass 1: a wrong letter, main table
-void secondChoiceLetters(Round& round); // pass 2: a wrong letter, second choice
-void thirdChoiceLetters(Round& round);  // pass 3: a wrong letter, third choice
-void letterPairs(Round& round);         // pass 4: two letters, and a forgotten letter between
-void swappedGlide(Round& round);        // pass 5: "յու" and "ույ" swapped
-void doubledLetter(Round& round);       // pass 6: a letter typed twice
+void confusableLetters(Round& round);    // pass 1: a wrong letter, main table
+void secondChoiceLetters(Round& round);  // pass 2: a wrong letter, second choice
+void thirdChoiceLetters(Round& round);   // pass 3: a wrong letter, third choice
+void letterPairs(Round& round);          // pass 4: two letters, and a forgotten letter between
+void swappedGlide(Round& round);         // pass 5: "յու" and "ույ" swapped
+void doubledLetter(Round& round);        // pass 6: a letter typed twice
 
 // Step 8: three times over, the later copy of an item goes, and so does a later one-letter item
 // when the word has more than one letter; an empty item ends a pass.
@@ -96,7 +97,8 @@ void cleanUp(std::vector<FontText>& list, std::size_t wordLength);
 // sblik1: the keys of the word's bucket near it.
 void sblik1(const FontText& word, ArmenianBuckets& buckets, std::vector<FontText>& list);
 // sblik: only what the dictionary holds stays. The first survivor gets WordTail back in Text2.
-void sblik(std::vector<FontText>& list, FontText& WordTail, FontText& Text2, ArmenianBuckets& buckets);
+void sblik(std::vector<FontText>& list, FontText& WordTail, FontText& Text2,
+           ArmenianBuckets& buckets);
 
 // The whole generator: steps 1 to 10.
 SpellResult splch(const SpellInput& input, ArmenianBuckets& buckets);

@@ -14,10 +14,15 @@ FontText captionOf(bool armenian, std::string_view english, std::string_view arm
     return FontText(armenian ? armenianText : english);
 }
 
-FontText findCaption(bool armenian) { return captionOf(armenian, kFindCaption, "Որոնել"_ft); }
-FontText findNextCaption(bool armenian) { return captionOf(armenian, kFindNextCaption, "Որոնել հաջորդը"_ft); }
+FontText findCaption(bool armenian) {
+    return captionOf(armenian, kFindCaption, "Որոնել"_ft);
+}
+FontText findNextCaption(bool armenian) {
+    return captionOf(armenian, kFindNextCaption, "Որոնել հաջորդը"_ft);
+}
 FontText replaceCaption(bool armenian) {
-    return armenian ? FontText("Փոխել"_ft) + "\n" + FontText("սրանով"_ft) : FontText("Replace -\nWith - ");
+    return armenian ? FontText("Փոխել"_ft) + "\n" + FontText("սրանով"_ft)
+                    : FontText("Replace -\nWith - ");
 }
 
 // Lower case of both alphabets, for a search that ignores case.
@@ -40,19 +45,23 @@ Command2Action findNext(SmallBoxes& boxes, FindState& state, FindReplaceView& vi
         work = lowerCase(work);
         needle = lowerCase(needle);
     }
-    boxes.Command2Tip = armenian ? FontText("Որոնումն ընդհատելու համար երկու անգամ կտտացրեք փնտրվող տեքստի վրա:"_ft)
-                                 : FontText("Doublclick Search Textbox to abort the search.");
+    boxes.Command2Tip =
+        armenian ? FontText("Որոնումն ընդհատելու համար երկու անգամ կտտացրեք փնտրվող տեքստի վրա:"_ft)
+                 : FontText("Doublclick Search Textbox to abort the search.");
     for (;;) {
-        const std::int64_t from = std::clamp<std::int64_t>(state.SearchPos, 0, static_cast<std::int64_t>(work.size()));
+        const std::int64_t from =
+            std::clamp<std::int64_t>(state.SearchPos, 0, static_cast<std::int64_t>(work.size()));
         const auto at = work.find(needle, static_cast<std::size_t>(from));
         if (at != FontText::npos) {
             state.SearchPos = static_cast<std::int64_t>(at) + 1;
             boxes.Command2 = findNextCaption(armenian);
-            view.selectText4(static_cast<std::int64_t>(at), static_cast<std::int64_t>(needle.size()));
+            view.selectText4(static_cast<std::int64_t>(at),
+                             static_cast<std::int64_t>(needle.size()));
             return Command2Action::Found;
         }
         Question q;
-        q.text = {"No matches found! Restart the Search?", FontText("Համընկնում չգտնվեց: Վերսկսե՞լ որոնումը:"_ft)};
+        q.text = {"No matches found! Restart the Search?",
+                  FontText("Համընկնում չգտնվեց: Վերսկսե՞լ որոնումը:"_ft)};
         q.title = {FontText(kFindCaption), FontText("Որոնել"_ft)};
         q.buttons = Buttons::YesNo;
         q.subject = state.SearchText;
@@ -86,9 +95,12 @@ Command2Action replaceAll(SmallBoxes& boxes, FindState& state, FindReplaceView& 
             ++state.ReplacementCount;
             if (state.ReplacementCount == 1) {
                 Question q;
-                q.text = {"1 Replacement done.\r\nShall we continue with the same replacement in the rest of the text?",
-                          FontText("Կատարվեց 1 փոփոխություն:"_ft) + "\r\n" +
-                              FontText("Շարունակե՞նք անել այս փոփոխությունը տեքստի մնացած հատվածում: "_ft)};
+                q.text = {
+                    "1 Replacement done.\r\nShall we continue with the same replacement in the "
+                    "rest of the text?",
+                    FontText("Կատարվեց 1 փոփոխություն:"_ft) + "\r\n" +
+                        FontText(
+                            "Շարունակե՞նք անել այս փոփոխությունը տեքստի մնացած հատվածում: "_ft)};
                 // In English the box has only OK, so English always goes on.
                 q.buttons = armenian ? Buttons::YesNo : Buttons::Ok;
                 q.subject = find;
@@ -122,15 +134,19 @@ bool isFindCaption(std::string_view caption) {
            caption == "Որոնել հաջորդը"_ft;
 }
 
-bool isSaveCaption(std::string_view caption) { return caption == kSaveCaption || caption == "Հիշել"_ft; }
+bool isSaveCaption(std::string_view caption) {
+    return caption == kSaveCaption || caption == "Հիշել"_ft;
+}
 
 bool mainlyLatin(std::string_view text4) {
     std::int64_t latin = 0;
     std::int64_t armenian = 0;
     for (const char ch : text4) {
         const auto c = static_cast<unsigned char>(ch);
-        if ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z')) ++latin;
-        else if (font::isArmenianLetter(c) || c == font::kLigature) ++armenian;
+        if ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'))
+            ++latin;
+        else if (font::isArmenianLetter(c) || c == font::kLigature)
+            ++armenian;
     }
     return latin > armenian;
 }
@@ -144,8 +160,8 @@ void Fnd_Click(SmallBoxes& boxes, bool armenian) {
     boxes.Command2 = findCaption(armenian);
 }
 
-void Replacce_click(SmallBoxes& boxes, const FontText& text4, const FontText& selected, const FontText& RawWord,
-                    bool inPass, bool armenian) {
+void Replacce_click(SmallBoxes& boxes, const FontText& text4, const FontText& selected,
+                    const FontText& RawWord, bool inPass, bool armenian) {
     boxes.Command2Tip.clear();
     if (!text4.empty()) {
         boxes.Text1Visible = true;
@@ -159,7 +175,8 @@ void Replacce_click(SmallBoxes& boxes, const FontText& text4, const FontText& se
         boxes.Text2Visible = true;
         // In a pass Text2 keeps the replacement the generator rebuilt with the word's ending;
         // when there is none it would show the misspelling itself, so the suggestion goes in.
-        if (!inPass || boxes.Text2.empty() || boxes.Text2 == RawWord) boxes.Text2 = boxes.List1.front();
+        if (!inPass || boxes.Text2.empty() || boxes.Text2 == RawWord)
+            boxes.Text2 = boxes.List1.front();
     } else if (boxes.List1.empty()) {
         boxes.List1Visible = false;
         boxes.Text2Visible = true;

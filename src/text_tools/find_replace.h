@@ -35,16 +35,16 @@ struct SmallBoxes {
 
 // The search state kept between clicks.
 struct FindState {
-    std::int64_t SearchPos = 0;         // the position reached, 1-based; 0 before the first match
-    bool FindIgnoreCase = false;        // set by Text4_Change: true for a mainly Latin text
+    std::int64_t SearchPos = 0;   // the position reached, 1-based; 0 before the first match
+    bool FindIgnoreCase = false;  // set by Text4_Change: true for a mainly Latin text
     std::int64_t ReplacementCount = 0;
-    FontText SearchText;                // Text1, trimmed
-    bool inPass = false;                // a spell-check pass: the replacement is not counted aloud
+    FontText SearchText;  // Text1, trimmed
+    bool inPass = false;  // a spell-check pass: the replacement is not counted aloud
 };
 
 // What Find and Replace need of the window.
 class FindReplaceView {
-public:
+  public:
     virtual ~FindReplaceView() = default;
     virtual bool armenianInterface() const = 0;
     virtual FontText text4() const = 0;
@@ -73,8 +73,8 @@ void Fnd_Click(SmallBoxes& boxes, bool armenian);
 // Replacce_click: the boxes for a replacement, or for the suggestions of the spell checker.
 // `selected` is the selection of Text4; `RawWord` the word in question; `inPass` is true during a
 // spell-check pass.
-void Replacce_click(SmallBoxes& boxes, const FontText& text4, const FontText& selected, const FontText& RawWord,
-                    bool inPass, bool armenian);
+void Replacce_click(SmallBoxes& boxes, const FontText& text4, const FontText& selected,
+                    const FontText& RawWord, bool inPass, bool armenian);
 
 // A click on a suggestion: it goes into Text2, the list gives way to Text2, and Command2 can be
 // pressed.

@@ -9,10 +9,11 @@ using vorlexa::test::shellQuote;
 namespace {
 
 class SpellCli : public vorlexa::test::CliDataTest {
-protected:
+  protected:
     void SetUp() override {
         buildData("house\tտուն\tn\nbig\tմեծ\ta\n",
-                  "մեծ\tbig\ta\nգիրք\tbook\tn\nգետ\triver\tn\nգյուղ\tvillage\tn\nև\tand\tc\nբարի\tgood\ta\n");
+                  "մեծ\tbig\ta\nգիրք\tbook\tn\nգետ\triver\tn\nգյուղ\tvillage\tn\nև\tand\tc\nբարի\tg"
+                  "ood\ta\n");
     }
 };
 
@@ -90,19 +91,21 @@ TEST_F(SpellCli, PipeModeAnswersAnEditorsLines) {
         "քիրք\n";
     const auto r = run("spell -a", input);
     EXPECT_EQ(r.exitCode, 0) << r.err;
-    EXPECT_EQ(r.out,
-              "@(#) International Ispell Version 3.1.20 (but really vorlexa-cli " VORLEXA_TEST_VERSION ")\n"
-              "*\n"
-              "& քիրք 1 4: գիրք\n"
-              "\n"
-              "*\n"
-              "& ջետ 1 6: գետ\n"
-              "\n"
-              "\n"
-              "& բաի 1 4: բարի\n"
-              "\n"
-              "*\n"
-              "\n");
+    EXPECT_EQ(
+        r.out,
+        "@(#) International Ispell Version 3.1.20 (but really vorlexa-cli " VORLEXA_TEST_VERSION
+        ")\n"
+        "*\n"
+        "& քիրք 1 4: գիրք\n"
+        "\n"
+        "*\n"
+        "& ջետ 1 6: գետ\n"
+        "\n"
+        "\n"
+        "& բաի 1 4: բարի\n"
+        "\n"
+        "*\n"
+        "\n");
 }
 
 TEST_F(SpellCli, PipeModeWithoutSuggestionsAndWithTheEditorsOptions) {

@@ -34,7 +34,7 @@ inline const std::string kSpellLexicon =
     "մեծ\tbig\ta\n";
 
 class SpellFixture {
-public:
+  public:
     explicit SpellFixture(const std::string& armenianEnglish = kSpellLexicon) {
         folder_.write("source/lexicon/en-hy.tsv", "house\tտուն\tn\n");
         folder_.write("source/lexicon/hy-en.tsv", armenianEnglish);
@@ -69,7 +69,8 @@ inline bool contains(const std::vector<std::string>& list, const std::string& it
 
 // The variants one pass makes of a word, in UTF-8.
 template <typename Pass>
-std::vector<std::string> variantsOf(const std::string& word, Pass pass, const std::string& lastChosen = "") {
+std::vector<std::string> variantsOf(const std::string& word, Pass pass,
+                                    const std::string& lastChosen = "") {
     const FontText w = fromUtf8(word);
     std::vector<FontText> list;
     spell::Round round{w, list, fromUtf8(lastChosen)};

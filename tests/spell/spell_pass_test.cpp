@@ -15,7 +15,7 @@ using namespace literals;
 // A host with a suggestion panel: it says Yes to correcting, keeps what it is shown and, when
 // told, picks the right spelling for the word.
 class SpellHost : public ScriptedHost, public spell::SpellPanel {
-public:
+  public:
     int ask(const Question& q) override {
         questions.push_back(q);
         if (q.kind == QuestionKind::CorrectUnknownWord) return correct ? kAnswerYes : kAnswerNo;
@@ -31,7 +31,7 @@ public:
 };
 
 class PassFixture {
-public:
+  public:
     explicit PassFixture(const std::string& armenianEnglish = kSpellLexicon) {
         folder_.write("source/lexicon/en-hy.tsv", "house\tտուն\tn\nbig\tմեծ\ta\n");
         folder_.write("source/pairs/uxxumy.tsv", "\" ա \"\t\" է \"\n");
@@ -160,7 +160,8 @@ TEST(SpellPass, LoneAOffersTheDialectRepairAndThenItsCorrection) {
     f.pass("մեծ ա:");
     std::vector<QuestionKind> kinds;
     for (const Question& q : f.host.questions) kinds.push_back(q.kind);
-    EXPECT_EQ(kinds, (std::vector<QuestionKind>{QuestionKind::CorrectUnknownWord, QuestionKind::DialectRepair}));
+    EXPECT_EQ(kinds, (std::vector<QuestionKind>{QuestionKind::CorrectUnknownWord,
+                                                QuestionKind::DialectRepair}));
     ASSERT_EQ(f.host.shown.size(), 1u);
     // "ա" for "է": the word with a character either side, and "է" with the character after it.
     EXPECT_EQ(toUtf8(f.host.shown[0].Text1), " ա:");

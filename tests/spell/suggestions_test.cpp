@@ -62,7 +62,8 @@ TEST(SpellPasses, EVIsWrittenAsTheLigature) {
 }
 
 TEST(SpellPasses, AgonyKeepsEV) {
-    for (const std::string& v : variantsOf("հոգեվարք", spell::letterPairs)) EXPECT_EQ(v.find("և"), std::string::npos) << v;
+    for (const std::string& v : variantsOf("հոգեվարք", spell::letterPairs))
+        EXPECT_EQ(v.find("և"), std::string::npos) << v;
 }
 
 TEST(SpellPasses, PairAtStartStandsForOneLetter) {
@@ -85,7 +86,8 @@ TEST(SpellPasses, DoubledLetterAloneRepairsALetterTypedTwice) {
 }
 
 TEST(SpellPasses, OBeforeAnythingButVewGetsVewAndO) {
-    EXPECT_EQ(variantsOf("որ", spell::confusableLetters), (std::vector<std::string>{"ուր", "օր", "ոռ"}));
+    EXPECT_EQ(variantsOf("որ", spell::confusableLetters),
+              (std::vector<std::string>{"ուր", "օր", "ոռ"}));
     // Before "ւ" the "ո" is left alone, and so is the "ւ" after it.
     EXPECT_TRUE(variantsOf("ու", spell::confusableLetters).empty());
 }
@@ -120,7 +122,8 @@ TEST(SpellGenerator, RoundsGrowWithTheLength) {
 }
 
 TEST(SpellGenerator, CleanUpKeepsFirstCopiesAndOneLetterItemsOnlyForOneLetterWords) {
-    std::vector<FontText> list = {fromUtf8("աբ"), fromUtf8("բ"), fromUtf8("աբ"), fromUtf8("գդ"), fromUtf8("գդ")};
+    std::vector<FontText> list = {fromUtf8("աբ"), fromUtf8("բ"), fromUtf8("աբ"), fromUtf8("գդ"),
+                                  fromUtf8("գդ")};
     spell::cleanUp(list, 2);
     EXPECT_EQ(list, (std::vector<FontText>{fromUtf8("աբ"), fromUtf8("գդ")}));
 
@@ -183,7 +186,8 @@ TEST(SpellSuggestions, OnlyDictionaryWordsStayWithoutCopies) {
     SpellFixture f;
     const std::vector<std::string> got = f.suggest("քիրք");
     ASSERT_FALSE(got.empty());
-    for (const std::string& s : got) EXPECT_TRUE(f.store.findArmenian(fromUtf8(s)).has_value()) << s;
+    for (const std::string& s : got)
+        EXPECT_TRUE(f.store.findArmenian(fromUtf8(s)).has_value()) << s;
     std::vector<std::string> sorted = got;
     std::sort(sorted.begin(), sorted.end());
     EXPECT_EQ(std::adjacent_find(sorted.begin(), sorted.end()), sorted.end());

@@ -12,7 +12,7 @@
 namespace vorlexa::test {
 
 class CliDataTest : public ::testing::Test {
-protected:
+  protected:
     // Lexicon lines are "key<TAB>gloss<TAB>tag" in UTF-8.
     void buildData(const std::string& englishArmenian, const std::string& armenianEnglish) {
         dir.write("src/lexicon/en-hy.tsv", englishArmenian);

@@ -13,11 +13,13 @@ using namespace literals;
 using namespace text_tools;
 
 class FakeBoxView : public FindReplaceView {
-public:
+  public:
     bool armenianInterface() const override { return armenian; }
     FontText text4() const override { return text; }
     void setText4(const FontText& t) override { text = t; }
-    FontText text4SelectedText() const override { return text.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(length)); }
+    FontText text4SelectedText() const override {
+        return text.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(length));
+    }
     void selectText4(std::int64_t s, std::int64_t l) override {
         start = s;
         length = l;
@@ -111,7 +113,8 @@ TEST(Find, ArmenianCapitalsOfTheTextAreFoldedSoTheWordIsTypedSmall) {
     FindFixture g("Տունը մեծ է:", true);
     g.find("Տուն");
     EXPECT_EQ(g.view.questions.size(), 1u);
-    EXPECT_EQ(toUtf8(g.boxes.Command2Tip), "Որոնումն ընդհատելու համար երկու անգամ կտտացրեք փնտրվող տեքստի վրա:");
+    EXPECT_EQ(toUtf8(g.boxes.Command2Tip),
+              "Որոնումն ընդհատելու համար երկու անգամ կտտացրեք փնտրվող տեքստի վրա:");
 }
 
 TEST(Find, MainlyLatinTextIsSearchedWithoutRegardToCase) {
@@ -172,7 +175,8 @@ TEST(Replace, EnglishAlwaysGoesOnAfterTheFirstReplacement) {
     ASSERT_EQ(f.view.questions.size(), 1u);
     EXPECT_EQ(f.view.questions[0].buttons, Buttons::Ok);
     EXPECT_EQ(f.view.questions[0].text.english,
-              "1 Replacement done.\r\nShall we continue with the same replacement in the rest of the text?");
+              "1 Replacement done.\r\nShall we continue with the same replacement in the rest of "
+              "the text?");
     ASSERT_EQ(f.view.notices.size(), 1u);
     EXPECT_EQ(f.view.notices[0].text.english, "3 Replacements done.");
     EXPECT_EQ(f.state.ReplacementCount, 3);
@@ -190,7 +194,8 @@ TEST(Replace, ArmenianNoLeavesTheRestOfTheText) {
     ASSERT_EQ(f.view.questions.size(), 1u);
     EXPECT_EQ(f.view.questions[0].buttons, Buttons::YesNo);
     EXPECT_EQ(toUtf8(f.view.questions[0].text.armenian),
-              "Կատարվեց 1 փոփոխություն:\r\nՇարունակե՞նք անել այս փոփոխությունը տեքստի մնացած հատվածում: ");
+              "Կատարվեց 1 փոփոխություն:\r\nՇարունակե՞նք անել այս փոփոխությունը տեքստի մնացած "
+              "հատվածում: ");
     ASSERT_EQ(f.view.notices.size(), 1u);
     EXPECT_EQ(toUtf8(f.view.notices[0].text.armenian), "Կատարվեց 1 փոփոխություն:");
 }
