@@ -23,11 +23,16 @@ class SpellHost : public ScriptedHost, public spell::SpellPanel {
         return genericAnswer;
     }
     void showSuggestions(const spell::SpellResult& r) override { shown.push_back(r); }
+    void setBusy(bool b) override {
+        NullHost::setBusy(b);
+        busySteps.push_back(b);
+    }
 
     bool correct = true;
     int dialectAnswer = kAnswerNo;
     int genericAnswer = kAnswerNo;
     std::vector<spell::SpellResult> shown;
+    std::vector<bool> busySteps;
 };
 
 class PassFixture {
@@ -127,6 +132,14 @@ TEST(SpellPass, ReplacementIsCheckedAgain) {
     // A replacement the translator cannot place either is questioned in its turn.
     spell::replaceInPass(*f.engine, fromUtf8("քիրք"), fromUtf8("քիրքք"));
     EXPECT_EQ(f.questionedWords(), (std::vector<std::string>{"քիրք", "քիրքք"}));
+}
+
+TEST(SpellPass, HourglassShowsWhileSuggestionsAreMade) {
+    PassFixture f;
+    f.pass("քիրք մեծ");
+    ASSERT_EQ(f.host.busySteps.size(), 2u);
+    EXPECT_TRUE(f.host.busySteps[0]);
+    EXPECT_FALSE(f.host.busySteps[1]);
 }
 
 TEST(SpellPass, WithoutSuggestionsTheWordIsOfferedAsItStands) {

@@ -180,6 +180,7 @@ TEST(SpellSuggestions, EachMisspellingGetsItsRightSpelling) {
     EXPECT_TRUE(contains(f.suggest("յեղբայր"), "եղբայր"));
     EXPECT_TRUE(contains(f.suggest("գույղ"), "գյուղ"));
     EXPECT_TRUE(contains(f.suggest("գիրրք"), "գիրք"));
+    EXPECT_TRUE(contains(f.suggest("գիրքժ"), "գիրք"));  // a letter too many, dropped
 }
 
 TEST(SpellSuggestions, OnlyDictionaryWordsStayWithoutCopies) {
