@@ -396,13 +396,17 @@ void MainForm::Replacet_Click(const FontText& word) {
     panel_.Text2.clear();
     panel_.Text6.clear();
     panel_.listVisible = false;
+    panel_.text1Visible = panel_.text2Visible = panel_.text6Visible = panel_.command2Enabled = true;
     panel_.Command2 = std::string(language() == Language::Armenian ? kSaveCaptionArmenian : kSaveCaptionEnglish);
     view_.stateChanged();
 }
 
 void MainForm::Command2_Click() {
     if (panel_.Text1.empty()) return;
-    if (panel_.Command2 != kSaveCaptionEnglish && panel_.Command2 != kSaveCaptionArmenian) return;
+    if (panel_.Command2 != kSaveCaptionEnglish && panel_.Command2 != kSaveCaptionArmenian) {
+        smallBoxesCommand2();
+        return;
+    }
     // The design's save simply does nothing without a translation; the user is told why.
     const Direction direction =
         engine_ && engine_->Check1 == 1 ? Direction::ArmenianToEnglish : Direction::EnglishToArmenian;

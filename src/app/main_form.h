@@ -24,7 +24,9 @@
 #include "engine/engine.h"
 #include "engine/host.h"
 #include "engine/var.h"
+#include "spell/spell_pass.h"
 #include "text/font_text.h"
+#include "text_tools/find_replace.h"
 
 namespace vorlexa::app {
 
@@ -93,6 +95,13 @@ struct WordPanel {
     std::vector<FontText> List1;
     bool listVisible = false;
     std::string Command2;  // the button's caption, which picks its action
+    // Which boxes show while the panel does: Find shows Text1 alone, Replace and the spell
+    // checker Text1 with Text2 or List1, the add-word panel Text1, Text2 and Text6.
+    bool text1Visible = true;
+    bool text2Visible = true;
+    bool text6Visible = true;
+    bool command2Enabled = true;
+    std::string command2Tip;  // UTF-8
 };
 
 // What the exit question decided.
@@ -124,7 +133,7 @@ struct RunCounts {
 inline constexpr std::string_view kTempEnglishList = "tmpa.txt";
 inline constexpr std::string_view kTempArmenianList = "tmpe.txt";
 
-class MainForm : public Host {
+class MainForm : public Host, public spell::SpellPanel {
 public:
     using Clock = std::chrono::steady_clock;
 
@@ -179,6 +188,22 @@ public:
     // Escape or the Skip button: the word is left untranslated, as a No to the question would
     // leave it, and the paused run goes on.
     void skipWord();
+
+    // ---- Spell checker, Find and Replace (spell_commands.cpp) ----------------------------
+    void SSO_Click();
+    void DSO_Click();
+    // Asks "Would you like to check spelling?" and on Yes starts a pass with suggestions over
+    // the result box. The transliteration calls it when it has finished.
+    void CorrectorWorning();
+    void Fnd_Click();
+    // The panel for a replacement in Text4, or for the suggestions of the spell checker.
+    void Replacce_click();
+    void List1_Click(int index);
+    void Text1_DblClick();
+    // Text4 changed: a mainly Latin text is searched without regard to case.
+    void Text4_Change();
+    const text_tools::FindState& findState() const { return find_; }
+    void showSuggestions(const spell::SpellResult& result) override;
 
     // ---- Phonetic typing -----------------------------------------------------------------
     // The code a key press in one of the main window's boxes becomes.
@@ -252,6 +277,9 @@ private:
     void endUnfinishedRun();
     void runEnded();
     bool instantSliceEnded();
+    text_tools::SmallBoxes smallBoxes() const;
+    void applySmallBoxes(const text_tools::SmallBoxes& boxes);
+    void smallBoxesCommand2();  // Command2 for Find, Replace and the spell checker
 
     Form1View& view_;
     std::map<std::string, ItemState, std::less<>> items_;
@@ -269,6 +297,7 @@ private:
     FontText skippedWord_;          // the next question about adding this word is answered No
     RunCounts runCounts_;
     Clock::time_point sliceStart_;
+    text_tools::FindState find_;
 
     std::filesystem::path dataFolder_;
     InstanceLock lock_;

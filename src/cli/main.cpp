@@ -4,6 +4,7 @@
 
 #include "cli/cli_common.h"
 #include "cli/dict_commands.h"
+#include "cli/spell_commands.h"
 #include "cli/text_commands.h"
 #include "cli/translate_commands.h"
 #include "cli/usage_errors.h"
@@ -27,6 +28,7 @@ int main(int argc, char** argv) {
     addDictCommands(app, options, result);
     addTranslateCommands(app, options, result);
     addTextCommands(app, result);
+    addSpellCommands(app, options, result);
 
     try {
         app.parse(argc, argv);

@@ -53,7 +53,8 @@ void Engine::Text3_Change(const FontText& text) {
     ArmenianCount = 1;
     TimeOfStart = std::chrono::steady_clock::now();
     OutputText.clear();
-    host.setResultText({});
+    // A spell-check pass shows the text it checks, so that the word in question can be selected.
+    host.setResultText(SpellMode == 1 ? SourceText : FontText{});
 
     std::int64_t questions = 0;
     std::int64_t quotes = 0;

@@ -10,7 +10,4 @@ namespace vorlexa {
 
 using namespace literals;
 
-// The spell-check pass, which follows the scanner in the result pane, lands in src/spell/.
-void Engine::textselection() {}
-
 }  // namespace vorlexa

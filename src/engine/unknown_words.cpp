@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "engine/engine.h"
+#include "spell/spell_pass.h"
 
 namespace vorlexa {
 
@@ -90,8 +91,8 @@ void noteWordGroupWritten(Engine& e, std::size_t length) {
 // look-up that fails comes back here with the shorter word. LastStemmed stops a word that the
 // analysis cannot change any more.
 void Engine::notFoundPath() {
-    // The user is adding a word: nothing more of it is analysed or asked about.
-    if (AnswerCode == kAnswerYes && SpellMode != 1) {
+    // The user is adding or correcting a word: nothing more of it is analysed or asked about.
+    if (AnswerCode == kAnswerYes) {
         CurrentWord.clear();
         return;
     }
@@ -127,7 +128,7 @@ void Engine::notFoundPath() {
     ++notFoundDepth_;
     LastSeenWord = CurrentWord;
     const bool placed = notFoundDepth_ <= kMaxAnalysisDepth && LastSeenWord != LastStemmed && retryUnknownWord();
-    if (!placed && !(AnswerCode == kAnswerYes && SpellMode != 1)) reportUnknownWord();
+    if (!placed && AnswerCode != kAnswerYes) reportUnknownWord();
     --notFoundDepth_;
 
     // The run pauses on this word: it is translated afresh when the run resumes, so what the
@@ -230,6 +231,12 @@ void Engine::reportUnknownWord() {
             // on when the panel is saved.
             if (SpellMode == 1 && CapitalFlag == 1) pokr2();
             if (SpellMode == 1 && RawWord == "ա"_ft) ArTr();
+            if (SpellMode == 1) {
+                // Whatever the dialect answer was, the pass waits for this word's correction.
+                AnswerCode = kAnswerYes;
+                spell::correctUnknownWord(*this);
+                return;
+            }
             host.openAddWordPanel(RawWord);
             return;
         }

@@ -100,6 +100,8 @@ Form1::Form1(QWidget* parent)
         {"EF", [this] { logic_->EF_Click(); }},       {"EdtTr", [this] { logic_->EdtTr_Click(); }},
         {"AMN", [this] { logic_->AMN_Click(); }},     {"Engo", [this] { logic_->Engo_Click(); }},
         {"TA", [this] { logic_->TA_Click(); }},       {"exit1", [this] { close(); }},
+        {"SSO", [this] { logic_->SSO_Click(); }},     {"DSO", [this] { logic_->DSO_Click(); }},
+        {"Fnd", [this] { logic_->Fnd_Click(); }},     {"Replacce", [this] { logic_->Replacce_click(); }},
     };
     for (const auto& [name, command] : builtIn) commands_[QString::fromLatin1(name)] = command;
 
@@ -213,6 +215,9 @@ void Form1::buildControls() {
         panelEdited();
         logic_->Command2_Click();
     });
+    // The spelling suggestions, and the letters of the result that pick how it is searched.
+    connect(List1, &QListWidget::itemClicked, this, [this] { logic_->List1_Click(List1->currentRow()); });
+    connect(Text4, &QPlainTextEdit::textChanged, this, [this] { logic_->Text4_Change(); });
     connect(Check1, &QCheckBox::toggled, this, [this](bool on) {
         if (!syncing_ && logic_->engine()) logic_->engine()->Check1 = on ? 1 : 0;
     });
@@ -409,6 +414,11 @@ void Form1::stateChanged() {
         for (const FontText& item : p.List1) List1->addItem(boxText(item));
     }
     List1->setVisible(p.listVisible);
+    Text1->setVisible(p.text1Visible);
+    Text2->setVisible(p.text2Visible);
+    Text6->setVisible(p.text6Visible);
+    Command2->setEnabled(p.command2Enabled);
+    Command2->setToolTip(captionText(p.command2Tip));
     syncing_ = false;
 }
 
@@ -493,6 +503,7 @@ bool Form1::eventFilter(QObject* watched, QEvent* event) {
             if (watched == Text2) logic_->Text2_Click();
             break;
         case QEvent::MouseButtonDblClick:
+            if (watched == Text1) logic_->Text1_DblClick();
             if (watched == Text2) {
                 panelEdited();
                 logic_->Text2_DblClick();

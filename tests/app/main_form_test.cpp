@@ -718,3 +718,105 @@ TEST(MainForm, AnInstantRunOfALongTextGoesInSlicesAndANewerKeyStrokeDropsIt) {
     EXPECT_LT(f.form->runCounts().longestSlice, std::chrono::milliseconds(100));
     EXPECT_EQ(f.result(), expected);
 }
+
+// ---- Spell checker, Find and Replace ----------------------------------------------------------
+
+TEST(MainFormSpell, PassOverTheResultQuestionsEachWordAndReplacesItWithTheSuggestion) {
+    Fixture f;
+    ASSERT_EQ(f.start(), StartResult::Started);
+    f.view.Text4 = fromUtf8("մեծ քիրք դուն");
+    f.view.answers = {kAnswerYes, kAnswerYes};
+    f.form->SSO_Click();
+    ASSERT_EQ(f.form->engine()->state, RunState::Waiting);
+    const WordPanel& p = f.form->panel();
+    EXPECT_TRUE(p.visible);
+    EXPECT_EQ(toUtf8(p.Text1), "քիրք");
+    EXPECT_EQ(toUtf8(p.Text2), "գիրք");  // the one suggestion goes straight into the replacement
+    EXPECT_FALSE(p.listVisible);
+    EXPECT_EQ(p.Command2, "Replace -\nWith - ");
+    f.form->Command2_Click();
+    ASSERT_EQ(f.form->engine()->state, RunState::Waiting);
+    EXPECT_EQ(toUtf8(f.form->panel().Text1), "դուն");
+    // The final "ն" came off before the variants were made and goes back on the first survivor.
+    ASSERT_EQ(f.form->panel().List1.size(), 1u);
+    EXPECT_EQ(toUtf8(f.form->panel().List1[0]), "տուն");
+    EXPECT_EQ(toUtf8(f.form->panel().Text2), "տունն");
+    f.form->panel().Text2 = fromUtf8("տուն");  // the user corrects the offer in the box
+    f.form->Command2_Click();
+    EXPECT_EQ(f.form->engine()->state, RunState::Idle);
+    EXPECT_TRUE(f.result().starts_with("մեծ գիրք տուն"));
+    ASSERT_FALSE(f.view.notices.empty());
+    EXPECT_EQ(f.view.notices.back().text.english, "Spell-Check is completed.");
+    EXPECT_FALSE(f.form->panel().visible);
+    EXPECT_EQ(f.view.kinds(), (std::vector<QuestionKind>{QuestionKind::CorrectUnknownWord,
+                                                         QuestionKind::CorrectUnknownWord}));
+}
+
+TEST(MainFormSpell, ChoosingFromSeveralSuggestionsEnablesTheButton) {
+    Fixture f;
+    ASSERT_EQ(f.start(), StartResult::Started);
+    f.view.Text4 = fromUtf8("մեծ");
+    f.form->SSO_Click();
+    text_tools::SmallBoxes shown;
+    spell::SpellResult r;
+    r.Text1 = fromUtf8("գեզ");
+    r.Text2 = r.Text1;
+    r.List1 = {fromUtf8("գետ"), fromUtf8("գեր")};
+    f.form->showSuggestions(r);
+    EXPECT_TRUE(f.form->panel().listVisible);
+    EXPECT_FALSE(f.form->panel().command2Enabled);
+    f.form->List1_Click(1);
+    EXPECT_EQ(toUtf8(f.form->panel().Text2), "գեր");
+    EXPECT_TRUE(f.form->panel().command2Enabled);
+    EXPECT_FALSE(f.form->panel().listVisible);
+}
+
+TEST(MainFormSpell, FindInTheArmenianInterface) {
+    Fixture f;
+    ASSERT_EQ(f.start(), StartResult::Started);
+    f.form->setChecked("AMN", true);
+    f.view.Text4 = fromUtf8("Տունը և տունը");
+    f.form->Fnd_Click();
+    EXPECT_EQ(f.form->panel().Command2, "Որոնել");
+    EXPECT_FALSE(f.form->panel().text2Visible);
+    EXPECT_FALSE(f.form->findState().FindIgnoreCase);
+    f.form->panel().Text1 = fromUtf8("տուն");
+    f.form->Command2_Click();
+    EXPECT_EQ(f.view.selection.start, 0);
+    EXPECT_EQ(f.view.selection.length, 4);
+    EXPECT_EQ(f.form->panel().Command2, "Որոնել հաջորդը");
+    f.form->Command2_Click();
+    EXPECT_EQ(f.view.selection.start, 8);
+    f.form->Text1_DblClick();
+    EXPECT_FALSE(f.form->panel().visible);
+}
+
+TEST(MainFormSpell, ReplaceInTheEnglishInterfaceTakesTheSelection) {
+    Fixture f;
+    ASSERT_EQ(f.start(), StartResult::Started);
+    f.type("big house");
+    f.view.Text4 = "a cat and a cat";
+    f.view.selection = {2, 3};
+    f.form->Replacce_click();
+    EXPECT_EQ(f.form->panel().Text1, "cat");
+    f.form->panel().Text2 = "dog";
+    f.form->Command2_Click();
+    EXPECT_EQ(f.view.Text4, "a dog and a dog");
+    EXPECT_EQ(f.form->engine()->OutputText, "a dog and a dog");
+    ASSERT_FALSE(f.view.notices.empty());
+    EXPECT_EQ(f.view.notices.back().text.english, "2 Replacements done.");
+    EXPECT_FALSE(f.form->panel().visible);
+}
+
+TEST(MainFormSpell, CorrectorWorningStartsAPassOnYes) {
+    Fixture f;
+    ASSERT_EQ(f.start(), StartResult::Started);
+    f.view.Text4 = fromUtf8("մեծ տուն");
+    f.form->CorrectorWorning();
+    EXPECT_EQ(f.view.runs, 0);
+    f.view.answers = {kAnswerYes};
+    f.form->CorrectorWorning();
+    EXPECT_EQ(f.view.runs, 1);
+    EXPECT_EQ(f.view.notices.back().text.english, "Spell-Check is completed.");
+    EXPECT_TRUE(f.result().starts_with("մեծ տուն"));
+}

@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "dictionary_tools/lexicon_compiler.h"
+#include "support/cli_data_test.h"
 #include "support/run_cli.h"
 #include "support/temp_folder.h"
 #include "text/font_text.h"
@@ -12,20 +13,11 @@ using vorlexa::test::shellQuote;
 
 namespace {
 
-class TranslateCli : public ::testing::Test {
+class TranslateCli : public vorlexa::test::CliDataTest {
 protected:
     void SetUp() override {
-        dir.write("src/lexicon/en-hy.tsv",
-                  "house\tտուն\tn\nbig\tմեծ\ta\nis\tէ\to\nred\tկարմիր\ta\n");
-        dir.write("src/lexicon/hy-en.tsv", "մեծ\tbig\ta\n");
-        const auto report = vorlexa::buildDataFolder(dir / "src", dir / "data");
-        ASSERT_TRUE(report.ok());
+        buildData("house\tտուն\tn\nbig\tմեծ\ta\nis\tէ\to\nred\tկարմիր\ta\n", "մեծ\tbig\ta\n");
     }
-    std::string data() const { return "--data-dir " + shellQuote((dir / "data").string()) + " "; }
-    vorlexa::test::CliResult run(const std::string& args, const std::string& input = "") {
-        return runCli(data() + args, input, dir.path());
-    }
-    vorlexa::test::TempFolder dir;
 };
 
 TEST_F(TranslateCli, RoadOfOneSentenceGivesTheGlossesInOrderAndTheFullStop) {

@@ -87,7 +87,8 @@ TEST(UnknownArmenianWords, ALoneAInASpellCheckOffersTheDialectRepair) {
     EXPECT_EQ(toUtf8(q.text.armenian), "Տեքստը պարունակում է արարատյան բարբառի տարրեր: Սրբագրե՞լ:");
     EXPECT_EQ(q.title.english, "Warning");
     EXPECT_EQ(q.title.armenian, "Warning");
-    EXPECT_EQ(f.engine->state, RunState::Idle);  // "No" to the repair: the pass goes on
+    // "No" to the repair: the correction of the word follows, and the pass waits for it.
+    EXPECT_EQ(f.engine->state, RunState::Waiting);
 
     HyEnFixture g;  // another unknown word is no dialect
     g.engine->SpellMode = 1;

@@ -123,12 +123,12 @@ private slots:
 
     void itemsWhoseWorkIsNotBuiltAreShownDisabled() {
         Form1& w = open();
-        for (const char* name : {"Fnd", "Replacce", "uta", "cvtae", "Chat"})
+        for (const char* name : {"uta", "cvtae", "Chat"})
             QVERIFY2(!action(name)->isEnabled(), name);
         for (const char* name : {"TS", "ITR", "IMPV", "SUT", "EF", "EdtTr", "AMN", "Engo", "TA", "exit1", "Open1", "CWD",
-                                 "HTD", "fnt", "muse5", "gih", "Ha", "He", "abo"})
+                                 "HTD", "fnt", "muse5", "gih", "Ha", "He", "abo", "SSO", "DSO", "Fnd", "Replacce"})
             QVERIFY2(action(name)->isEnabled(), name);
-        QVERIFY(!child<QMenu>("splc")->menuAction()->isEnabled());
+        QVERIFY(child<QMenu>("splc")->menuAction()->isEnabled());
         // Save waits for its dialog and for the first run.
         QVERIFY(!action("Save")->isEnabled());
         QVERIFY(!action("prnt")->isEnabled());
@@ -440,6 +440,52 @@ private slots:
         QCOMPARE(counts.dropped, 2);
         QVERIFY(counts.longestSlice < std::chrono::milliseconds(100));
         QCOMPARE(text4(), expected);
+    }
+
+    void theSpellCheckPassQuestionsAWordSelectsItAndReplacesItWithTheChosenSuggestion() {
+        open();
+        auto* text4Box = child<QPlainTextEdit>("Text4");
+        text4Box->setPlainText(u("մեծ քիրք"));
+        int selectedWhenAsked = -1;
+        prompter_.whenAsked = [&] { selectedWhenAsked = text4Box->textCursor().selectionStart(); };
+        prompter_.answers = {kAnswerYes};
+        action("SSO")->trigger();
+        prompter_.whenAsked = nullptr;
+        QCOMPARE(prompter_.asked.size(), 1);
+        QVERIFY(prompter_.asked[0].contains(u("Word 'քիրք' - not recognised!")));
+        QCOMPARE(selectedWhenAsked, 4);  // the word in question stands selected in the result
+        auto* text1 = child<QLineEdit>("Text1");
+        auto* text2 = child<QLineEdit>("Text2");
+        QVERIFY(text1->isVisible());
+        QCOMPARE(text1->text(), u("քիրք"));
+        QVERIFY(text2->isVisible());
+        QCOMPARE(text2->text(), u("գիրք"));
+        QVERIFY(!child<QLineEdit>("Text6")->isVisible());
+        QCOMPARE(child<QPushButton>("Command2")->text(), QStringLiteral("Replace -\nWith - "));
+        QTest::mouseClick(child<QPushButton>("Command2"), Qt::LeftButton);
+        QCOMPARE(prompter_.notices.size(), 1);
+        QCOMPARE(prompter_.notices[0], QStringLiteral("Spell-Check is completed."));
+        QVERIFY2(text4().startsWith(u("մեծ գիրք")), qPrintable(text4()));
+        QVERIFY(!text1->isVisible());
+    }
+
+    void findSelectsEachMatchAndADoubleClickEndsTheSearch() {
+        open();
+        child<QPlainTextEdit>("Text4")->setPlainText(QStringLiteral("a big house and a house"));
+        action("Fnd")->trigger();
+        auto* text1 = child<QLineEdit>("Text1");
+        QVERIFY(text1->isVisible());
+        QVERIFY(!child<QLineEdit>("Text2")->isVisible());
+        QTest::keyClicks(text1, QStringLiteral("house"));
+        QTest::mouseClick(child<QPushButton>("Command2"), Qt::LeftButton);
+        QCOMPARE(child<QPlainTextEdit>("Text4")->textCursor().selectedText(), QStringLiteral("house"));
+        QCOMPARE(child<QPlainTextEdit>("Text4")->textCursor().selectionStart(), 6);
+        QCOMPARE(child<QPushButton>("Command2")->text(), QStringLiteral("Find next"));
+        QVERIFY(!child<QPushButton>("Command2")->toolTip().isEmpty());
+        QTest::mouseClick(child<QPushButton>("Command2"), Qt::LeftButton);
+        QCOMPARE(child<QPlainTextEdit>("Text4")->textCursor().selectionStart(), 18);
+        QTest::mouseDClick(text1, Qt::LeftButton);
+        QVERIFY(!text1->isVisible());
     }
 
     void phoneticTypingMapsKeysByTheTable() {
