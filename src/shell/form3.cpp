@@ -238,7 +238,9 @@ Form3* installTextTools(Form1& window, TextToolsHooks hooks) {
             if (!engine) return;
             Text4Selection box(window);
             text_tools::ResultBoxTools tools(window.logic(), box, engine->OutputText);
-            tools.CorrectorWorning = hooks.CorrectorWorning;
+            // The spell checker's own question and pass, unless the caller hands another.
+            tools.CorrectorWorning = hooks.CorrectorWorning ? hooks.CorrectorWorning
+                                                            : [&window] { window.logic().CorrectorWorning(); };
             (tools.*command)();
         });
     };

@@ -58,8 +58,8 @@ private:
 };
 
 struct TextToolsHooks {
-    // The question after LLAT_Click and the spell-check pass it starts on Yes. Empty: the
-    // question alone is put (text_tools::ResultBoxTools::CorrectorWorning).
+    // The question after LLAT_Click and the spell-check pass it starts on Yes. Empty: the main
+    // window's own (app::MainForm::CorrectorWorning).
     std::function<void()> CorrectorWorning;
 };
 

@@ -1,6 +1,7 @@
 #include "spell/spell_pass.h"
 
 #include "engine/scanner.h"
+#include "text_tools/result_box_tools.h"
 
 namespace vorlexa::spell {
 
@@ -105,12 +106,7 @@ void skipInPass(Engine& engine) {
 
 int CorrectorWorning(Engine& engine, const WriteText3& writeText3) {
     engine.AnswerCode = 0;
-    Question q;
-    q.text = {"Would you like to check spelling?",
-              FontText("Կկամենայի՞ք կատարել սխալների ուղղում:"_ft)};
-    q.title = {"Attention", FontText("Ուշադրություն"_ft)};
-    q.buttons = Buttons::YesNo;
-    const int answer = engine.host.ask(q);
+    const int answer = engine.host.ask(text_tools::spellCheckQuestion());
     engine.AnswerCode = 0;
     if (answer == kAnswerYes) SSO_Click(engine, writeText3);
     engine.AnswerCode = 0;

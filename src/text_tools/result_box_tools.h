@@ -21,7 +21,7 @@ public:
     virtual void replaceSelection(const FontText& text) = 0;
 };
 
-// The question put after LLAT_Click when no spell-check pass is wired to follow it.
+// "Would you like to check spelling?": put after LLAT_Click, before the spell-check pass.
 Question spellCheckQuestion();
 
 class ResultBoxTools {
