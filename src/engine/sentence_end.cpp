@@ -3,8 +3,10 @@
 // of the result pane, which works the same way on its own pair list.
 #include <chrono>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <system_error>
+#include <utility>
 
 #include "engine/engine.h"
 
@@ -25,29 +27,77 @@ std::string_view pairHalf(std::string_view record, std::size_t start1, std::size
     return marked.substr(1, marked.size() - 2);
 }
 
-// Every occurrence, left to right; the replacement is not searched again.
+// Every occurrence, left to right; the replacement is not searched again. The text is copied
+// only when the pair occurs in it, and then once, so a long text with many occurrences is not
+// moved for each of them. `findFrom(text, from)` gives the next occurrence at or after `from`.
+template <typename FindFrom>
+void replaceEach(FontText& text, std::size_t findLength, std::string_view with, FindFrom findFrom) {
+    std::size_t pos = findFrom(text, 0);
+    if (pos == FontText::npos) return;
+    FontText out;
+    out.reserve(text.size());
+    std::size_t from = 0;
+    for (; pos != FontText::npos; pos = findFrom(text, from)) {
+        out.append(text, from, pos - from);
+        out += with;
+        from = pos + findLength;
+    }
+    out.append(text, from, FontText::npos);
+    text = std::move(out);
+}
+
 void replaceAll(FontText& text, std::string_view find, std::string_view with) {
     if (find.empty()) return;
-    std::size_t pos = 0;
-    while ((pos = text.find(find, pos)) != FontText::npos) {
-        text.replace(pos, find.size(), with);
-        pos += with.size();
-    }
+    replaceEach(text, find.size(), with,
+                [find](const FontText& t, std::size_t from) { return t.find(find, from); });
+}
+
+void replaceAll(FontText& text, std::string_view find, std::string_view with,
+                const std::boyer_moore_horspool_searcher<const char*>& searcher) {
+    if (find.empty()) return;
+    replaceEach(text, find.size(), with, [&searcher](const FontText& t, std::size_t from) {
+        const char* end = t.data() + t.size();
+        const char* at = searcher(t.data() + from, end).first;
+        return at == end ? FontText::npos : static_cast<std::size_t>(at - t.data());
+    });
 }
 
 }  // namespace
 
-void Engine::poqr_uxxumner1() {
-    const std::string name = std::string("uxxum") + (Check1 == 0 ? "a" : "e");
+const Engine::PairList* Engine::pairList(const std::string& name) {
+    const std::filesystem::path path = dataFolder / name;
+    PairList& list = pairLists_[path.string()];
+    const auto stamp = [&path](std::uintmax_t& size, std::filesystem::file_time_type& time) {
+        std::error_code ec;
+        size = std::filesystem::file_size(path, ec);
+        if (!ec) time = std::filesystem::last_write_time(path, ec);
+        return !ec;
+    };
+    std::uintmax_t size = 0;
+    std::filesystem::file_time_type time;
+    if (list.loaded && stamp(size, time) && size == list.size && time == list.writeTime) return &list;
+
+    list = PairList();
     RecordFile pairs;
-    if (!pairs.open(dataFolder / name, kPairRecordWidth)) return;
+    if (!pairs.open(path, kPairRecordWidth)) return nullptr;
     // The list is read to its last record but one.
     const std::int64_t count = static_cast<std::int64_t>(pairs.byteLength() / kPairRecordWidth) - 1;
     for (std::int64_t n = 1; n <= count; ++n) {
         const std::string record = pairs.read(n);
-        replaceAll(OutputText, pairHalf(record, 1, kPairRecordWidth / 2),
-                   pairHalf(record, kPairRecordWidth / 2 + 1, kPairRecordWidth / 2));
+        const std::string_view find = pairHalf(record, 1, kPairRecordWidth / 2);
+        if (find.empty()) continue;
+        list.pairs.emplace_back(find, pairHalf(record, kPairRecordWidth / 2 + 1, kPairRecordWidth / 2));
     }
+    for (const auto& [find, with] : list.pairs) list.searchers.emplace_back(find.data(), find.data() + find.size());
+    list.loaded = stamp(list.size, list.writeTime);
+    return &list;
+}
+
+void Engine::poqr_uxxumner1() {
+    const PairList* list = pairList(std::string("uxxum") + (Check1 == 0 ? "a" : "e"));
+    if (list == nullptr) return;
+    for (std::size_t i = 0; i < list->pairs.size(); ++i)
+        replaceAll(OutputText, list->pairs[i].first, list->pairs[i].second, list->searchers[i]);
 }
 
 void Engine::CTYD() {
