@@ -7,6 +7,7 @@
 #include <string>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #include "engine/engine.h"
 
@@ -18,6 +19,7 @@ namespace {
 
 constexpr int kPairRecordWidth = 100;    // uxxuma, uxxume: find and replace, 50 characters each
 constexpr int kDialectRecordWidth = 40;  // uxxumy: find and replace, 20 characters each
+constexpr auto kStampSettle = std::chrono::seconds(2);  // well past any file system's time-stamp tick
 
 // One half of a pair record: trimmed, then stripped of the marks around it, so that a value may
 // begin or end in a blank. A half too short to hold its marks holds nothing.
@@ -30,8 +32,10 @@ std::string_view pairHalf(std::string_view record, std::size_t start1, std::size
 // Every occurrence, left to right; the replacement is not searched again. The text is copied
 // only when the pair occurs in it, and then once, so a long text with many occurrences is not
 // moved for each of them. `findFrom(text, from)` gives the next occurrence at or after `from`.
+// `placed` collects where each replacement starts in the new text.
 template <typename FindFrom>
-void replaceEach(FontText& text, std::size_t findLength, std::string_view with, FindFrom findFrom) {
+void replaceEach(FontText& text, std::size_t findLength, std::string_view with, FindFrom findFrom,
+                 std::vector<std::size_t>* placed = nullptr) {
     std::size_t pos = findFrom(text, 0);
     if (pos == FontText::npos) return;
     FontText out;
@@ -39,12 +43,59 @@ void replaceEach(FontText& text, std::size_t findLength, std::string_view with, 
     std::size_t from = 0;
     for (; pos != FontText::npos; pos = findFrom(text, from)) {
         out.append(text, from, pos - from);
+        if (placed) placed->push_back(out.size());
         out += with;
         from = pos + findLength;
     }
     out.append(text, from, FontText::npos);
     text = std::move(out);
 }
+
+// The runs of two and of three characters a text holds. While the text is repaired the sets only
+// grow, so they always hold every run of the text: a find with a run they lack cannot occur, and
+// its search is skipped.
+class RunFilter {
+public:
+    explicit RunFilter(std::string_view text) : pairs_(kPairRuns), triples_(kTripleRuns) { add(text); }
+
+    void add(std::string_view text) {
+        for (std::size_t i = 0; i + 1 < text.size(); ++i) {
+            pairs_[pairIndex(text, i)] = true;
+            if (i + 2 < text.size()) triples_[tripleIndex(text, i)] = true;
+        }
+    }
+
+    // Adds the runs the replacements at `placed` may have made: those that overlap a replacement
+    // or cross either of its edges.
+    void addAround(std::string_view text, const std::vector<std::size_t>& placed, std::size_t withLength) {
+        for (const std::size_t at : placed) {
+            const std::size_t from = at >= 2 ? at - 2 : 0;
+            add(text.substr(from, at - from + withLength + 2));
+        }
+    }
+
+    bool mayHold(std::string_view find) const {
+        if (find.size() == 2) return pairs_[pairIndex(find, 0)];
+        for (std::size_t i = 0; i + 2 < find.size(); ++i)
+            if (!triples_[tripleIndex(find, i)]) return false;
+        return true;
+    }
+
+private:
+    static constexpr std::size_t kPairRuns = std::size_t{1} << 16;    // every two bytes
+    static constexpr std::size_t kTripleRuns = std::size_t{1} << 24;  // every three bytes
+    static std::size_t byteAt(std::string_view s, std::size_t i) { return static_cast<unsigned char>(s[i]); }
+    static std::size_t pairIndex(std::string_view s, std::size_t i) { return byteAt(s, i) << 8 | byteAt(s, i + 1); }
+    static std::size_t tripleIndex(std::string_view s, std::size_t i) {
+        return byteAt(s, i) << 16 | byteAt(s, i + 1) << 8 | byteAt(s, i + 2);
+    }
+
+    std::vector<bool> pairs_;
+    std::vector<bool> triples_;
+};
+
+// Below this length a text is searched for every pair directly: making the filter costs more.
+constexpr std::size_t kFilteredTextLength = 16 * 1024;
 
 void replaceAll(FontText& text, std::string_view find, std::string_view with) {
     if (find.empty()) return;
@@ -53,13 +104,17 @@ void replaceAll(FontText& text, std::string_view find, std::string_view with) {
 }
 
 void replaceAll(FontText& text, std::string_view find, std::string_view with,
-                const std::boyer_moore_horspool_searcher<const char*>& searcher) {
+                const std::boyer_moore_horspool_searcher<const char*>& searcher,
+                std::vector<std::size_t>* placed = nullptr) {
     if (find.empty()) return;
-    replaceEach(text, find.size(), with, [&searcher](const FontText& t, std::size_t from) {
-        const char* end = t.data() + t.size();
-        const char* at = searcher(t.data() + from, end).first;
-        return at == end ? FontText::npos : static_cast<std::size_t>(at - t.data());
-    });
+    replaceEach(
+        text, find.size(), with,
+        [&searcher](const FontText& t, std::size_t from) {
+            const char* end = t.data() + t.size();
+            const char* at = searcher(t.data() + from, end).first;
+            return at == end ? FontText::npos : static_cast<std::size_t>(at - t.data());
+        },
+        placed);
 }
 
 }  // namespace
@@ -89,15 +144,30 @@ const Engine::PairList* Engine::pairList(const std::string& name) {
         list.pairs.emplace_back(find, pairHalf(record, kPairRecordWidth / 2 + 1, kPairRecordWidth / 2));
     }
     for (const auto& [find, with] : list.pairs) list.searchers.emplace_back(find.data(), find.data() + find.size());
-    list.loaded = stamp(list.size, list.writeTime);
+    // A time stamp has a coarse tick: a list written just before it was read could be written again
+    // under the same stamp and size, so such a list is read again until its stamp has settled.
+    const bool stamped = stamp(list.size, list.writeTime);
+    list.loaded = stamped && std::filesystem::file_time_type::clock::now() - list.writeTime > kStampSettle;
     return &list;
 }
 
 void Engine::poqr_uxxumner1() {
     const PairList* list = pairList(std::string("uxxum") + (Check1 == 0 ? "a" : "e"));
     if (list == nullptr) return;
-    for (std::size_t i = 0; i < list->pairs.size(); ++i)
-        replaceAll(OutputText, list->pairs[i].first, list->pairs[i].second, list->searchers[i]);
+    if (OutputText.size() < kFilteredTextLength) {
+        for (std::size_t i = 0; i < list->pairs.size(); ++i)
+            replaceAll(OutputText, list->pairs[i].first, list->pairs[i].second, list->searchers[i]);
+        return;
+    }
+    RunFilter filter(OutputText);
+    std::vector<std::size_t> placed;
+    for (std::size_t i = 0; i < list->pairs.size(); ++i) {
+        const auto& [find, with] = list->pairs[i];
+        if (!filter.mayHold(find)) continue;
+        placed.clear();
+        replaceAll(OutputText, find, with, list->searchers[i], &placed);
+        filter.addAround(OutputText, placed, with.size());
+    }
 }
 
 void Engine::CTYD() {
