@@ -1,6 +1,7 @@
 // The end of a run: the sentence state cleared, the result repaired by the pair list and shown,
 // the time it took, the words left untranslated, and the run's resets. Also the dialect repair
 // of the result pane, which works the same way on its own pair list.
+#include <bitset>
 #include <chrono>
 #include <filesystem>
 #include <functional>
@@ -94,8 +95,26 @@ private:
     std::vector<bool> triples_;
 };
 
-// Below this length a text is searched for every pair directly: making the filter costs more.
+// Below this length a text is filtered by its characters alone: making the runs costs more.
 constexpr std::size_t kFilteredTextLength = 16 * 1024;
+
+// The characters a short text holds, grown by those of each replacement: a find with a character
+// the set lacks cannot occur in the text.
+class CharFilter {
+public:
+    explicit CharFilter(std::string_view text) { add(text); }
+    void add(std::string_view text) {
+        for (const char ch : text) seen_.set(static_cast<unsigned char>(ch));
+    }
+    bool mayHold(std::string_view find) const {
+        for (const char ch : find)
+            if (!seen_.test(static_cast<unsigned char>(ch))) return false;
+        return true;
+    }
+
+private:
+    std::bitset<256> seen_;  // one bit per byte value
+};
 
 void replaceAll(FontText& text, std::string_view find, std::string_view with) {
     if (find.empty()) return;
@@ -155,8 +174,13 @@ void Engine::poqr_uxxumner1() {
     const PairList* list = pairList(std::string("uxxum") + (Check1 == 0 ? "a" : "e"));
     if (list == nullptr) return;
     if (OutputText.size() < kFilteredTextLength) {
-        for (std::size_t i = 0; i < list->pairs.size(); ++i)
-            replaceAll(OutputText, list->pairs[i].first, list->pairs[i].second, list->searchers[i]);
+        CharFilter chars(OutputText);
+        for (std::size_t i = 0; i < list->pairs.size(); ++i) {
+            const auto& [find, with] = list->pairs[i];
+            if (!chars.mayHold(find)) continue;
+            replaceAll(OutputText, find, with, list->searchers[i]);
+            chars.add(with);
+        }
         return;
     }
     RunFilter filter(OutputText);
