@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "engine/engine.h"
+#include "proc_status.h"
 #include "engine/scanner.h"
 #include "text/font_text.h"
 
@@ -154,14 +155,7 @@ void setWordRate(benchmark::State& state, std::int64_t words) {
                                                    benchmark::Counter::kIsRate);
 }
 
-// Kilobytes of a /proc/self/status line such as VmHWM.
-long statusKb(const std::string& field) {
-    std::ifstream in("/proc/self/status");
-    std::string line;
-    while (std::getline(in, line))
-        if (line.rfind(field + ":", 0) == 0) return std::stol(line.substr(field.size() + 1));
-    return -1;
-}
+using bench::statusKb;
 
 // The peak resident memory of the process while it holds the dictionaries and runs over a 10 MB
 // text, counted from a fresh start of the peak. It runs first, before other runs grow the heap.
