@@ -10,6 +10,7 @@
 
 #include "dictionary_tools/lexicon_compiler.h"
 #include "engine/engine.h"
+#include "proc_status.h"
 #include "engine/scanner.h"
 #include "text/font_text.h"
 
@@ -122,14 +123,7 @@ void BM_TranslateEnglishToArmenian(benchmark::State& state) {
 }
 BENCHMARK(BM_TranslateEnglishToArmenian)->Arg(1)->Arg(10)->Unit(benchmark::kMillisecond);
 
-// Kilobytes of a /proc/self/status line such as VmHWM.
-long statusKb(const std::string& field) {
-    std::ifstream in("/proc/self/status");
-    std::string line;
-    while (std::getline(in, line))
-        if (line.rfind(field + ":", 0) == 0) return std::stol(line.substr(field.size() + 1));
-    return -1;
-}
+using bench::statusKb;
 
 // The peak resident memory a run adds, as a multiple of the text's size.
 void BM_PeakMemoryOfAOneMegabyteRun(benchmark::State& state) {

@@ -71,17 +71,18 @@ bool takesNoEd(std::string_view gloss) {
 void Engine::teqst_ArmenianToEnglish() {
     // Match: the key is compared first, and only a matching record is tested for "null", so the
     // walk runs down the whole column.
+    // The column's index gives the first record of the key; it is the end record exactly when
+    // it is the column's first "null".
     skizba();
     const RecordFile& file = store.armenian();
-    const double limit = file.recordCountExact();
-    bool found = false;
-    for (std::int64_t rec = RangeStart; static_cast<double>(rec) <= limit; rec += kArmenianStride) {
-        DictRecord.raw = file.read(rec);
-        if (DictRecord.key() != CurrentWord) continue;
-        if (DictRecord.isNull()) break;
-        RecIndex = rec;
-        found = true;
-        break;
+    const std::int64_t first = file.firstKeyInColumn(kArmenianStride, static_cast<int>(RangeStart), CurrentWord);
+    const bool found = first != 0 && first != file.firstNullInColumn(kArmenianStride, static_cast<int>(RangeStart));
+    if (first != 0) {
+        DictRecord.raw = file.read(first);
+        if (found) RecIndex = first;
+    } else if (RangeStart <= file.recordCount()) {
+        // The walk read down to the column's last record.
+        DictRecord.raw = file.read(RangeStart + (file.recordCount() - RangeStart) / kArmenianStride * kArmenianStride);
     }
     if (!found) {
         notFoundPath();

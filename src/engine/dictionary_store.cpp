@@ -1,6 +1,7 @@
 #include "engine/dictionary_store.h"
 
 #include <array>
+#include <algorithm>
 #include <fstream>
 #include <system_error>
 
@@ -9,18 +10,6 @@
 namespace vorlexa {
 
 using namespace literals;
-
-std::string_view trimBlanks(std::string_view s) {
-    const auto first = s.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    const auto last = s.find_last_not_of(' ');
-    return s.substr(first, last - first + 1);
-}
-
-std::string_view mid(std::string_view s, std::size_t start, std::size_t length) {
-    if (start == 0 || start > s.size()) return {};
-    return s.substr(start - 1, length);
-}
 
 std::string DictRecord::tag() const {
     std::string t(trimBlanks(mid(raw, 41, kTagWidth)));
@@ -128,7 +117,14 @@ bool RecordFile::open(const std::filesystem::path& path, int recordLength) {
     }
     std::ifstream in(path, std::ios::binary);
     if (!in) return false;
-    bytes_.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    dropIndex();
+    // One read of the whole file: the dictionaries are megabytes.
+    in.seekg(0, std::ios::end);
+    const std::streamoff size = in.tellg();
+    in.seekg(0, std::ios::beg);
+    bytes_.resize(static_cast<std::size_t>(std::max<std::streamoff>(size, 0)));
+    in.read(bytes_.data(), static_cast<std::streamsize>(bytes_.size()));
+    bytes_.resize(static_cast<std::size_t>(in.gcount()));
     open_ = true;
     return true;
 }
@@ -151,19 +147,31 @@ std::string RecordFile::read(std::int64_t n) const {
     return rec;
 }
 
+std::string_view RecordFile::view(std::int64_t n) const {
+    if (n < 1 || n > recordCount()) return {};
+    return std::string_view(bytes_).substr(static_cast<std::uint64_t>(n - 1) * recordLength_,
+                                           static_cast<std::size_t>(recordLength_));
+}
+
 bool RecordFile::write(std::int64_t n, std::string_view record) {
     if (!open_ || n < 1) return false;
     const std::uint64_t from = static_cast<std::uint64_t>(n - 1) * recordLength_;
     const std::uint64_t oldSize = bytes_.size();
-    if (bytes_.size() < from + recordLength_) bytes_.resize(from + recordLength_, ' ');
-    std::string rec(record.substr(0, recordLength_));
-    rec.resize(recordLength_, ' ');
-    bytes_.replace(from, recordLength_, rec);
+    if (bytes_.size() < from + recordLength_) {
+        bytes_.resize(from + recordLength_, ' ');
+        dropIndex();  // new records join every column
+    } else if (indexStride_ > 0) {
+        columns_[static_cast<std::size_t>((n - 1) % indexStride_)].built = false;
+    }
+    const std::size_t len = std::min<std::size_t>(record.size(), static_cast<std::size_t>(recordLength_));
+    bytes_.replace(from, len, record.substr(0, len));
+    std::fill_n(bytes_.begin() + static_cast<std::ptrdiff_t>(from + len), recordLength_ - len, ' ');
     if (!writeThrough_) return true;
     return flushRange(std::min(oldSize, from), from + recordLength_);
 }
 
 bool RecordFile::replaceAll(std::string_view bytes) {
+    dropIndex();
     bytes_.assign(bytes);
     std::ofstream out(path_, std::ios::binary | std::ios::trunc);
     out.write(bytes_.data(), static_cast<std::streamsize>(bytes_.size()));
@@ -174,6 +182,42 @@ bool RecordFile::replaceAll(std::string_view bytes) {
 bool RecordFile::setWriteThrough(bool on) {
     writeThrough_ = on;
     return on ? replaceAll(std::string(bytes_)) : true;
+}
+
+void RecordFile::dropIndex() const {
+    indexStride_ = 0;
+    columns_.clear();
+}
+
+const RecordFile::ColumnIndex& RecordFile::column(int stride, int column) const {
+    if (stride != indexStride_) {
+        columns_.assign(static_cast<std::size_t>(stride), ColumnIndex{});
+        indexStride_ = stride;
+    }
+    ColumnIndex& index = columns_[static_cast<std::size_t>(column - 1)];
+    if (index.built) return index;
+    index.firstNull = 0;
+    index.firstOfKey.clear();
+    const std::int64_t count = recordCount();
+    for (std::int64_t rec = column; rec <= count; rec += stride) {
+        const std::string_view raw = view(rec);
+        index.firstOfKey.try_emplace(std::string(trimBlanks(mid(raw, 1, kKeyWidth))), rec);
+        if (index.firstNull == 0 && trimBlanks(raw) == kNullKey) index.firstNull = rec;
+    }
+    index.built = true;
+    return index;
+}
+
+std::int64_t RecordFile::firstKeyInColumn(int stride, int column, std::string_view key) const {
+    if (column < 1 || column > stride) return 0;
+    const ColumnIndex& index = this->column(stride, column);
+    const auto it = index.firstOfKey.find(key);
+    return it == index.firstOfKey.end() ? 0 : it->second;
+}
+
+std::int64_t RecordFile::firstNullInColumn(int stride, int column) const {
+    if (column < 1 || column > stride) return 0;
+    return this->column(stride, column).firstNull;
 }
 
 bool RecordFile::flushRange(std::uint64_t from, std::uint64_t to) {
@@ -195,27 +239,18 @@ bool DictionaryStore::open(const std::filesystem::path& folder) {
 }
 
 std::optional<std::int64_t> DictionaryStore::findEnglish(std::string_view word) const {
-    const double limit = english_.recordCountExact();
-    DictRecord r;
-    for (std::int64_t rec = skizbeColumn(word); rec <= limit; rec += kEnglishStride) {
-        r.raw = english_.read(rec);
-        if (r.isNull()) return std::nullopt;
-        if (r.key() == word) return rec;
-    }
-    return std::nullopt;
+    const int column = skizbeColumn(word);
+    const std::int64_t first = english_.firstKeyInColumn(kEnglishStride, column, word);
+    const std::int64_t end = english_.firstNullInColumn(kEnglishStride, column);
+    if (first == 0 || (end != 0 && end <= first)) return std::nullopt;
+    return first;
 }
 
 std::optional<std::int64_t> DictionaryStore::findArmenian(std::string_view word) const {
-    const double limit = armenian_.recordCountExact();
-    DictRecord r;
-    for (std::int64_t rec = skizbaColumn(word); rec <= limit; rec += kArmenianStride) {
-        r.raw = armenian_.read(rec);
-        if (r.key() == word) {
-            if (r.isNull()) return std::nullopt;
-            return rec;
-        }
-    }
-    return std::nullopt;
+    const int column = skizbaColumn(word);
+    const std::int64_t first = armenian_.firstKeyInColumn(kArmenianStride, column, word);
+    if (first == 0 || first == armenian_.firstNullInColumn(kArmenianStride, column)) return std::nullopt;
+    return first;
 }
 
 bool carriesGloss(std::string_view record) {
@@ -224,24 +259,25 @@ bool carriesGloss(std::string_view record) {
 }
 
 namespace {
-// Rewrites `to` as the flat list of the records of `from` that carry a real gloss.
-bool copyRealRecords(const RecordFile& from, RecordFile& to) {
+// Writes the flat list of the records of `from` that carry a real gloss, in one pass over the
+// records in place and one write of the file.
+bool writeRealRecords(const RecordFile& from, const std::filesystem::path& to) {
     std::string out;
-    for (std::int64_t rec = 1; rec <= from.recordCountExact(); ++rec) {
-        const std::string r = from.read(rec);
+    const std::int64_t count = from.recordCount();
+    for (std::int64_t rec = 1; rec <= count; ++rec) {
+        const std::string_view r = from.view(rec);
         if (carriesGloss(r)) out += r;
     }
-    return to.replaceAll(out);
+    std::ofstream file(to, std::ios::binary | std::ios::trunc);
+    file.write(out.data(), static_cast<std::streamsize>(out.size()));
+    file.flush();
+    return static_cast<bool>(file);
 }
 }  // namespace
 
 bool DictionaryStore::CreateDicStrings() {
-    RecordFile stringea;
-    RecordFile stringae;
-    if (!stringea.open(folder_ / kEnglishStringsName, kRecordLength)) return false;
-    if (!stringae.open(folder_ / kArmenianStringsName, kRecordLength)) return false;
-    const bool e = copyRealRecords(english_, stringea);
-    const bool a = copyRealRecords(armenian_, stringae);
+    const bool e = writeRealRecords(english_, folder_ / kEnglishStringsName);
+    const bool a = writeRealRecords(armenian_, folder_ / kArmenianStringsName);
     return e && a;
 }
 

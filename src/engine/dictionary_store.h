@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace vorlexa {
@@ -36,11 +37,19 @@ inline constexpr std::string_view kArmenianStringsName = "Stringae";
 inline constexpr std::string_view kTermsFileName = "zhamanakavor";
 
 // Trim as the records are compared: blanks only, both ends.
-std::string_view trimBlanks(std::string_view s);
+inline std::string_view trimBlanks(std::string_view s) {
+    const auto first = s.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    const auto last = s.find_last_not_of(' ');
+    return s.substr(first, last - first + 1);
+}
 
 // A slice of a record or any text, 1-based like the engine's positions; past the end it yields
 // what is there or the empty string.
-std::string_view mid(std::string_view s, std::size_t start, std::size_t length = std::string_view::npos);
+inline std::string_view mid(std::string_view s, std::size_t start, std::size_t length = std::string_view::npos) {
+    if (start == 0 || start > s.size()) return {};
+    return s.substr(start - 1, length);
+}
 
 // One 45-character record and the fields the engine compares.
 struct DictRecord {
@@ -88,6 +97,9 @@ public:
 
     // Record n (1-based), blank-padded past the end of the file.
     std::string read(std::int64_t n) const;
+    // Record n (1-based) in place, without a copy; empty past the last whole record. Valid until
+    // the next write.
+    std::string_view view(std::int64_t n) const;
     // Writes record n, growing the file with blank records as needed. False on a disk error.
     bool write(std::int64_t n, std::string_view record);
     // Replaces the whole file by these bytes.
@@ -95,14 +107,37 @@ public:
     // Off: writes stay in memory (a bulk build); turning it back on writes the file once.
     bool setWriteThrough(bool on);
 
+    // A dictionary's column is the chain of records column, column + stride ... to the end of
+    // the file. These answer what a walk down it would find, from an index of the column that is
+    // built on its first question and dropped by any write into it, so it always agrees with
+    // the records. 0 when there is no such record.
+    // The first record whose trimmed key is `key`.
+    std::int64_t firstKeyInColumn(int stride, int column, std::string_view key) const;
+    // The first "null" record, the end of the column.
+    std::int64_t firstNullInColumn(int stride, int column) const;
+
 private:
     bool flushRange(std::uint64_t from, std::uint64_t to);
+
+    struct KeyHash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view s) const { return std::hash<std::string_view>{}(s); }
+    };
+    struct ColumnIndex {
+        bool built = false;
+        std::int64_t firstNull = 0;
+        std::unordered_map<std::string, std::int64_t, KeyHash, std::equal_to<>> firstOfKey;
+    };
+    const ColumnIndex& column(int stride, int column) const;
+    void dropIndex() const;
 
     std::filesystem::path path_;
     int recordLength_ = kRecordLength;
     std::string bytes_;
     bool open_ = false;
     bool writeThrough_ = true;
+    mutable int indexStride_ = 0;
+    mutable std::vector<ColumnIndex> columns_;
 };
 
 enum class Direction { EnglishToArmenian = 0, ArmenianToEnglish = 1 };

@@ -22,6 +22,8 @@
 #include <string>
 #include <string_view>
 #include <unordered_set>
+#include <utility>
+#include <vector>
 
 #include "engine/dictionary_store.h"
 #include "engine/host.h"
@@ -131,9 +133,17 @@ public:
     std::string_view sourceAt(std::int64_t pos, std::size_t n) const {
         return pos < 1 ? std::string_view{} : mid(SourceText, static_cast<std::size_t>(pos), n);
     }
+    // sourceAt(pos, literal.size()) == literal, answered inline: the scanner and the rules ask it
+    // for every word, and the first character rules out nearly every literal.
+    bool sourceIs(std::int64_t pos, std::string_view literal) const {
+        if (literal.empty()) return true;
+        if (pos < 1 || static_cast<std::uint64_t>(pos - 1) + literal.size() > SourceText.size()) return false;
+        const char* at = SourceText.data() + (pos - 1);
+        return at[0] == literal[0] && std::string_view(at, literal.size()) == literal;
+    }
     // The text at ScanPos + 1 compared with a literal over the literal's length.
-    bool nextIs(std::string_view literal) const { return sourceAt(ScanPos + 1, literal.size()) == literal; }
-    bool atIs(std::string_view literal) const { return sourceAt(ScanPos, literal.size()) == literal; }
+    bool nextIs(std::string_view literal) const { return sourceIs(ScanPos + 1, literal); }
+    bool atIs(std::string_view literal) const { return sourceIs(ScanPos, literal); }
     bool outputEndsWith(std::string_view s) const { return std::string_view(OutputText).ends_with(s); }
     bool englishToArmenian() const { return Check1 == 0; }
 
@@ -258,6 +268,20 @@ private:
     bool matchEnglishRecord(std::string_view key) const;
     void emitWordT();
     void placeNounAfterNoun();  // step S of the inflection
+
+    // A pair list of the run's end, read once and again only when its file changes on disk (the
+    // expression editor rewrites it between runs).
+    struct PairList {
+        bool loaded = false;
+        std::uintmax_t size = 0;
+        std::filesystem::file_time_type writeTime;
+        std::vector<std::pair<FontText, FontText>> pairs;  // find, replace; empty finds left out
+        // A searcher of each find, made once: it skips along a long text instead of stopping at
+        // every occurrence of the find's first character.
+        std::vector<std::boyer_moore_horspool_searcher<const char*>> searchers;
+    };
+    const PairList* pairList(const std::string& name);
+    std::map<std::string, PairList> pairLists_;
 
     int lastProgress_ = -1;
     int notFoundDepth_ = 0;  // not-found paths under way for the word being looked up

@@ -52,19 +52,30 @@ void Engine::teqst_dblclick() {
         return;
     }
 
-    // Match: the English walk down the word's column; a "null" record ends it.
+    // Match: the English walk down the word's column; a "null" record ends it. The first record
+    // that matches is the first record of one of the keys matchEnglishRecord accepts, so the
+    // column's index answers in place of the walk.
     skizbe();
     const RecordFile& file = store.english();
-    const double limit = file.recordCountExact();
-    bool found = false;
-    for (std::int64_t rec = RangeStart; static_cast<double>(rec) <= limit; rec += kEnglishStride) {
-        DictRecord.raw = file.read(rec);
-        if (DictRecord.isNull()) break;
-        if (matchEnglishRecord(DictRecord.key())) {
-            RecIndex = rec;
-            found = true;
-            break;
-        }
+    std::int64_t first = 0;
+    const auto earliest = [&](std::string_view key) {
+        const std::int64_t rec = file.firstKeyInColumn(kEnglishStride, static_cast<int>(RangeStart), key);
+        if (rec != 0 && (first == 0 || rec < first)) first = rec;
+    };
+    earliest(CurrentWord);
+    if (VerbFormMark == "ած"_ft || VerbFormMark == "ող"_ft || VerbFormMark == "ում"_ft || VerbFormMark.empty())
+        earliest(CurrentWord + 'e');
+    if (mid(PendingEnding, 2, 2) == "եր"_ft && CurrentWord.size() >= 2 && CurrentWord[CurrentWord.size() - 2] == 'e')
+        earliest(std::string_view(CurrentWord).substr(0, CurrentWord.size() - 1));
+    const std::int64_t end = file.firstNullInColumn(kEnglishStride, static_cast<int>(RangeStart));
+    const bool found = first != 0 && (end == 0 || first < end);
+    if (found) {
+        RecIndex = first;
+        DictRecord.raw = file.read(first);
+    } else if (end != 0) {
+        DictRecord.raw = file.read(end);  // the record the walk stopped at
+    } else if (RangeStart <= file.recordCount()) {
+        DictRecord.raw = file.read(RangeStart + (file.recordCount() - RangeStart) / kEnglishStride * kEnglishStride);
     }
     if (!found) {
         if (CurrentWord.starts_with("get ") || CurrentWord.starts_with("got ")) {
