@@ -14,6 +14,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QPalette>
 #include <QPlainTextEdit>
 #include <QProgressBar>
@@ -193,6 +194,8 @@ void Form1::buildControls() {
     setCentralWidget(central);
 
     for (QWidget* box : std::initializer_list<QWidget*>{Text1, Text2, Text3, Text4, Text6}) box->installEventFilter(this);
+    // Mouse presses on a text area reach its viewport, not the box itself.
+    Text4->viewport()->installEventFilter(this);
 
     // Any change of the source box is a run, typed or set by a command.
     typingPause_ = new QTimer(this);
@@ -501,6 +504,16 @@ bool Form1::eventFilter(QObject* watched, QEvent* event) {
             }
             if (watched == Text1) logic_->Text1_Click();
             if (watched == Text2) logic_->Text2_Click();
+            // In editing mode a right-button press on the result opens Replace for its selection.
+            if (watched == Text4->viewport() && static_cast<QMouseEvent*>(event)->button() == Qt::RightButton &&
+                logic_->checked("EF")) {
+                logic_->Replacce_click();
+                return true;
+            }
+            break;
+        case QEvent::ContextMenu:
+            // The right button belongs to Replace in editing mode: no context menu then.
+            if ((watched == Text4 || watched == Text4->viewport()) && logic_->checked("EF")) return true;
             break;
         case QEvent::MouseButtonDblClick:
             if (watched == Text1) logic_->Text1_DblClick();

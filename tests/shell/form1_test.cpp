@@ -469,6 +469,27 @@ private slots:
         QVERIFY(!text1->isVisible());
     }
 
+    void aRightButtonPressOnTheResultInEditingModeOpensReplaceForTheSelection() {
+        open();
+        auto* text4Box = child<QPlainTextEdit>("Text4");
+        text4Box->setPlainText(QStringLiteral("a cat and a cat"));
+        QTextCursor cursor = text4Box->textCursor();
+        cursor.setPosition(2);
+        cursor.setPosition(5, QTextCursor::KeepAnchor);
+        text4Box->setTextCursor(cursor);
+        // Outside editing mode the right button is the box's own.
+        QTest::mousePress(text4Box->viewport(), Qt::RightButton, {}, QPoint(2, 2));
+        QVERIFY(!child<QLineEdit>("Text1")->isVisible());
+
+        action("EF")->trigger();
+        text4Box->setTextCursor(cursor);
+        QTest::mousePress(text4Box->viewport(), Qt::RightButton, {}, QPoint(2, 2));
+        auto* text1 = child<QLineEdit>("Text1");
+        QVERIFY(text1->isVisible());
+        QCOMPARE(text1->text(), QStringLiteral("cat"));
+        QCOMPARE(child<QPushButton>("Command2")->text(), QStringLiteral("Replace -\nWith - "));
+    }
+
     void findSelectsEachMatchAndADoubleClickEndsTheSearch() {
         open();
         child<QPlainTextEdit>("Text4")->setPlainText(QStringLiteral("a big house and a house"));
