@@ -24,9 +24,8 @@ constexpr std::size_t kLongestWord = 256;
 
 constexpr std::string_view kDelimiterList = std::string_view(
     " -\r\n[,.:;\xA7\xA6}?!1234856790\x91/@$#%~=]^*\\{+|()\t<>'\x85\x92\x93\x94`\x96\xAA_");
-// The underscore is copied too: a fill-in line or a joined name is text the reader needs.
 constexpr std::string_view kCopiedList = std::string_view(
-    "{[><\r\n\x91- \t,;\x85\\/+|1234567890@($#%~=^*\x92\x93\x94\"')}]\xA7\xA6_");
+    "{[><\r\n\x91- \t,;\x85\\/+|1234567890@($#%~=^*\x92\x93\x94\"')}]\xA7\xA6");
 
 struct CharTable {
     std::array<bool, 256> in{};
@@ -402,6 +401,10 @@ bool Engine::scanTurn() {
     const int d = c();
     if (d != kNoChar && isCopiedDelimiter(static_cast<unsigned char>(d))) {
         OutputText += static_cast<char>(d);
+    } else if (d == '_' && (sourceAt(ScanPos - 1, 1) == "_" || sourceAt(ScanPos + 1, 1) == "_")) {
+        // One underscore joining two words is dropped; a line of them is a blank to fill in,
+        // text the reader needs.
+        OutputText += '_';
     } else if (d == ':') {
         if (!QuestionMarkHold.empty()) {
             OutputText += QuestionMarkHold;

@@ -1,0 +1,23 @@
+// Feeds the ending analysis one word: the first byte picks the direction, the rest is the word
+// as font text, analysed over the shipped dictionaries.
+#include "engine/engine.h"
+#include "fuzz/fuzz_support.h"
+
+using namespace vorlexa;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    if (size == 0) return 0;
+    static DictionaryStore store;
+    static const bool opened = store.open(fuzz::shippedDataCopy());
+    if (!opened) fuzz::finding("the shipped dictionaries do not open");
+    NullHost host;
+    host.setChecked(MenuItem::ITR, true);
+    Engine engine(store, fuzz::shippedDataCopy(), host);
+    engine.Check1 = data[0] & 1;
+    engine.CurrentWord = FontText(fuzz::asText(data + 1, size - 1));
+    engine.RawWord = engine.CurrentWord;
+    engine.SourceText = engine.CurrentWord + ' ';
+    engine.ScanPos = static_cast<std::int64_t>(engine.CurrentWord.size()) + 1;
+    engine.hayqer();
+    return 0;
+}
