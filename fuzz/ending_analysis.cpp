@@ -7,12 +7,9 @@ using namespace vorlexa;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size == 0) return 0;
-    static DictionaryStore store;
-    static const bool opened = store.open(fuzz::shippedDataCopy());
-    if (!opened) fuzz::finding("the shipped dictionaries do not open");
     NullHost host;
     host.setChecked(MenuItem::ITR, true);
-    Engine engine(store, fuzz::shippedDataCopy(), host);
+    Engine engine(fuzz::shippedStore(), fuzz::shippedDataCopy(), host);
     engine.Check1 = data[0] & 1;
     engine.CurrentWord = FontText(fuzz::asText(data + 1, size - 1));
     engine.RawWord = engine.CurrentWord;

@@ -6,6 +6,7 @@
 #include <random>
 
 #include "dictionary_tools/lexicon_compiler.h"
+#include "engine/dictionary_store.h"
 
 namespace vorlexa::fuzz {
 
@@ -38,6 +39,13 @@ const fs::path& shippedDataCopy() {
         return p;
     }();
     return folder;
+}
+
+DictionaryStore& shippedStore() {
+    static DictionaryStore store;
+    static const bool opened = store.open(shippedDataCopy());
+    if (!opened) finding("the shipped dictionaries do not open");
+    return store;
 }
 
 const fs::path& smallDataFolder() {

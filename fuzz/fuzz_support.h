@@ -9,6 +9,10 @@
 #include <string_view>
 #include <vector>
 
+namespace vorlexa {
+class DictionaryStore;
+}
+
 namespace vorlexa::fuzz {
 
 // A fresh folder under the system's temporary folder, removed when the process ends.
@@ -16,6 +20,9 @@ const std::filesystem::path& scratchFolder();
 
 // A copy of the shipped data folder of the build (the runs write their unknown words in it).
 const std::filesystem::path& shippedDataCopy();
+
+// The shipped dictionaries, opened once on shippedDataCopy().
+DictionaryStore& shippedStore();
 
 // A data folder compiled from a lexicon of a few words: quick to open and to rebuild from.
 const std::filesystem::path& smallDataFolder();

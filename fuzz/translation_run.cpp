@@ -7,12 +7,9 @@
 using namespace vorlexa;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static DictionaryStore store;
-    static const bool opened = store.open(fuzz::shippedDataCopy());
-    if (!opened) fuzz::finding("the shipped dictionaries do not open");
     NullHost host;
     host.setChecked(MenuItem::ITR, true);
-    Engine engine(store, fuzz::shippedDataCopy(), host);
+    Engine engine(fuzz::shippedStore(), fuzz::shippedDataCopy(), host);
     engine.Text3_Change(fromUtf8(fuzz::asText(data, size)));
     // With every answer No the run never waits; a run the guard stopped was a loop.
     if (engine.state != RunState::Idle) fuzz::finding("the run did not end");
