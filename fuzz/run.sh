@@ -15,6 +15,11 @@ if [ ${#targets[@]} -eq 0 ]; then
   for bin in "$build"/bin/fuzz_*; do targets+=("$(basename "$bin" | sed 's/^fuzz_//')"); done
 fi
 
+# Stack traces with function names, when the symbolizer of the fuzz compiler is there.
+if [ -z "${ASAN_SYMBOLIZER_PATH:-}" ] && [ -x /usr/lib/llvm-19/bin/llvm-symbolizer ]; then
+  export ASAN_SYMBOLIZER_PATH=/usr/lib/llvm-19/bin/llvm-symbolizer
+fi
+
 failed=()
 for t in "${targets[@]}"; do
   work="$build/fuzz-work/$t"
