@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages the build, the tests and the desktop program need, when missing.
+# With arguments, installs those packages instead (`make fuzz` names its compiler so).
 set -euo pipefail
 
 packages=(
@@ -11,6 +12,7 @@ packages=(
   aspell aspell-hy hunspell hunspell-en-us
   poppler-utils appstream dpkg-dev
 )
+if [ $# -gt 0 ]; then packages=("$@"); fi
 
 missing=()
 for p in "${packages[@]}"; do

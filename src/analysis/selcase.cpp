@@ -1,5 +1,6 @@
 #include "analysis/selcase.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <string>
 #include <unordered_map>
@@ -46,9 +47,13 @@ std::vector<StemRow> parseRows(std::string_view text) {
 struct StemIndex {
     std::vector<StemRow> rows;
     std::unordered_map<std::string_view, StemClass> first;
+    std::size_t longest = 0;  // a longer word is no stem of the list, and is not hashed whole
 
     StemIndex() : rows(parseRows(analysis_data::kStemClassesText)) {
-        for (const auto& row : rows) first.try_emplace(row.stem, row.stemClass);
+        for (const auto& row : rows) {
+            first.try_emplace(row.stem, row.stemClass);
+            longest = std::max(longest, row.stem.size());
+        }
     }
 };
 
@@ -71,6 +76,7 @@ FontText insertBefore(std::string_view stem, std::size_t fromEnd, std::string_vi
 const std::vector<StemRow>& stemClassRows() { return stemIndex().rows; }
 
 std::optional<StemClass> stemClassOf(std::string_view stem) {
+    if (stem.size() > stemIndex().longest) return std::nullopt;
     const auto& first = stemIndex().first;
     const auto it = first.find(stem);
     if (it == first.end()) return std::nullopt;

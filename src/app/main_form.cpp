@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <system_error>
 
 #include "app/add_word_panel.h"
@@ -163,9 +164,14 @@ void MainForm::applySettingsRecord(int record, std::string_view value) {
             if (size > 0) font_.size = size;
             break;
         }
-        case kRecordFontColor:
-            font_.color = static_cast<std::int64_t>(recordNumber(text));
+        case kRecordFontColor: {
+            // A colour is a 32-bit number; one beyond that range is no colour: the colour stays.
+            const double color = recordNumber(text);
+            if (color >= static_cast<double>(std::numeric_limits<std::int32_t>::min()) &&
+                color <= static_cast<double>(std::numeric_limits<std::uint32_t>::max()))
+                font_.color = static_cast<std::int64_t>(color);
             break;
+        }
         case kRecordFontName:
             if (!text.empty()) font_.name = std::string(text);
             break;

@@ -95,6 +95,7 @@ public:
     }
 
     Engine& engine() { return *engine_; }
+    bool anyStopped = false;  // a run was stopped before the end of its text
 
     // One run over the text; the blank the run start added behind the text is taken off again.
     FontText translate(const FontText& text) {
@@ -109,6 +110,8 @@ public:
                 engine_->resumeRun();
             }
         }
+        // A run the scanner's guard stopped has told its reason; the tool then ends in failure.
+        if (engine_->stopped) anyStopped = true;
         FontText result = host_->resultText();
         if ((text.empty() || text.back() != ' ') && !result.empty() && result.back() == ' ') result.pop_back();
         return result;
@@ -150,7 +153,7 @@ int translate(const GlobalOptions& options, const TranslateArgs& args) {
         }
     }
     std::cout.flush();
-    return std::cout ? kExitOk : kExitFailure;
+    return std::cout && !session.anyStopped ? kExitOk : kExitFailure;
 }
 
 int coverage(const GlobalOptions& options, const TranslateArgs& args) {

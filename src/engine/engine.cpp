@@ -97,6 +97,9 @@ void Engine::Text3_Change(const FontText& text) {
     if (!checked(MenuItem::ITR)) host.showProgress(true);
     lastProgress_ = -1;
     ScanPos = 1;
+    HaveFormPos = 0;
+    stopped.reset();
+    progressGuard.start();
     ankap0_DblClick();
     EnglishCount = 1;
     ArmenianCount = 1;

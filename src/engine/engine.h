@@ -19,6 +19,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -27,6 +28,7 @@
 
 #include "engine/dictionary_store.h"
 #include "engine/host.h"
+#include "engine/progress_guard.h"
 #include "engine/var.h"
 #include "text/font_text.h"
 
@@ -46,6 +48,12 @@ enum class TriggerReturn {
 };
 
 // Counts kept for the coverage report; they change nothing in the translation.
+// Why a run ended before the end of its text: the scanner's guards stopped it (see scanner.h).
+struct RunStop {
+    std::int64_t character = 0;  // 1-based character of the source text where the scanner stood
+    FontText reason;             // the English wording of the notice the host was shown
+};
+
 struct RunStatistics {
     std::int64_t unknownOccurrences = 0;      // times an unknown word was left in the text
     std::int64_t termsWritten = 0;            // words written to the TermsFile
@@ -67,6 +75,8 @@ public:
     const std::filesystem::path dataFolder;
     RunState state = RunState::Idle;
     RunStatistics stats;
+    std::optional<RunStop> stopped;  // set when the last run was stopped by a guard
+    ProgressGuard progressGuard;     // holds each run to the progress invariant
 
     // ---- Run ---------------------------------------------------------------------------
     // Any change of the source pane: sets the run up, guesses the direction and walks the text.
@@ -173,6 +183,7 @@ public:
     FontText ToMark;          // "to"
     Flag PerfectFlag;
     Var HaveForm;             // 1 have, 2 had, 3 has
+    std::int64_t HaveFormPos = 0;  // ScanPos at the delimiter after the "have" that set HaveForm
     Flag ImperativeFlag;
     Flag ContractionFlag;
     Flag CapitalFlag;
@@ -284,6 +295,8 @@ private:
     std::map<std::string, PairList> pairLists_;
 
     int lastProgress_ = -1;
+    bool guardTurn(std::int64_t scanPosBefore);  // false when the guard has stopped the run
+    void passLongRun();  // a run of characters too long for a word goes through as it stands
     int notFoundDepth_ = 0;  // not-found paths under way for the word being looked up
     std::unordered_set<FontText> termsIndex_;  // the TermsFile's words of this run, for the search
 };

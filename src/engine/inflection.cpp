@@ -282,13 +282,16 @@ void Engine::inflect_G_to_S() {
     }
 
     // L. After "have", "has", "had" a non-verb is read as the verb "to have"; the scanner goes
-    // back so that the word itself is read again.
+    // back so that the word itself is read again. It goes back to the last blank or CR, but never
+    // before the delimiter that ended the "have": with no blank between ("have-it", "had--not")
+    // the last blank stands before the "have", and reading it again would loop for ever.
     if ((HaveForm == 1 || HaveForm == 2 || HaveForm == 3) && !isVerb() && VerbFormMark != "ած"_ft) {
         std::int64_t p = ScanPos - 1;
         while (p >= 1 && SourceText[static_cast<std::size_t>(p - 1)] != ' ' &&
                SourceText[static_cast<std::size_t>(p - 1)] != '\r')
             --p;
-        ScanPos = std::max<std::int64_t>(p, 0);
+        const std::int64_t haveEnd = HaveFormPos < ScanPos ? HaveFormPos : 0;
+        ScanPos = std::max<std::int64_t>({p, haveEnd, 0});
         ending.clear();
         ClassChain.clear();
         PerfectFlag = 1;

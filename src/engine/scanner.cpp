@@ -19,6 +19,9 @@ constexpr unsigned char kLatinOpenGuillemet = 0xAB;  // "«" as typed in the Lat
 constexpr unsigned char kCR = '\r';
 constexpr unsigned char kLF = '\n';
 constexpr int kNoChar = -1;  // a position outside the text
+// No word of either language comes near this many characters (an escaped character counts seven);
+// a longer run without a delimiter is a line of signs or a text in a script the font lacks.
+constexpr std::size_t kLongestWord = 256;
 
 constexpr std::string_view kDelimiterList = std::string_view(
     " -\r\n[,.:;\xA7\xA6}?!1234856790\x91/@$#%~=]^*\\{+|()\t<>'\x85\x92\x93\x94`\x96\xAA_");
@@ -83,8 +86,10 @@ std::int64_t countWords(std::string_view text) {
 void Engine::ankap0_DblClick() {
     state = RunState::Running;
     while (ScanPos <= static_cast<std::int64_t>(SourceText.size())) {
+        const std::int64_t before = ScanPos;
         const bool goOn = scanTurn();
         progressStep();
+        if (!guardTurn(before)) return;
         if (!goOn) {
             state = RunState::Waiting;
             return;
@@ -96,6 +101,32 @@ void Engine::ankap0_DblClick() {
     }
     TransEndProcedure();
     state = RunState::Idle;
+}
+
+// Holds the run to the progress invariant (progress_guard.h). A stopped run shows what it
+// translated so far and a notice naming the character where the scanner stood.
+bool Engine::guardTurn(std::int64_t scanPosBefore) {
+    const GuardVerdict verdict = progressGuard.afterTurn(scanPosBefore, ScanPos, OutputText.size(), SourceText.size());
+    if (verdict == GuardVerdict::Go) return true;
+    const std::string at = std::to_string(characterNumber(SourceText, ScanPos));
+    const Wording text =
+        verdict == GuardVerdict::Stalled
+            ? Wording{"Translation stopped at character " + at + ": the run made no progress for " +
+                          std::to_string(progressGuard.limits.turnsWithoutProgress) + " turns.",
+                      FontText("Թարգմանությունը դադարեցվեց "_ft) + at +
+                          FontText("-րդ նշանի մոտ՝ "_ft) + std::to_string(progressGuard.limits.turnsWithoutProgress) +
+                          FontText(" քայլ առանց առաջընթացի:"_ft)}
+            : Wording{"Translation stopped at character " + at + ": the result grew to more than " +
+                          std::to_string(progressGuard.limits.outputPerSourceChar) + " times the length of the text.",
+                      FontText("Թարգմանությունը դադարեցվեց "_ft) + at +
+                          FontText("-րդ նշանի մոտ՝ արդյունքը տեքստից ավելի քան "_ft) +
+                          std::to_string(progressGuard.limits.outputPerSourceChar) +
+                          FontText(" անգամ երկար է:"_ft)};
+    stopped = RunStop{characterNumber(SourceText, ScanPos), text.english};
+    TransEndProcedure();
+    state = RunState::Idle;
+    host.notify(Notice{text, {"ZENKA - Vorlexa", FontText("ԶԵՆԿԱ - Վորլեքսա"_ft)}});
+    return false;
 }
 
 void Engine::progressStep() {
@@ -134,6 +165,29 @@ void Engine::InternetWhile() {
         HttpPassThrough += c;
         ++ScanPos;
     }
+}
+
+// Gathering a word one character a turn copies it and hands it to the ending analysis every
+// turn, which costs time with the square of its length. A run longer than any word goes to the
+// output as it stands, as typed, up to the next delimiter, where the scanner goes on.
+void Engine::passLongRun() {
+    const auto len = static_cast<std::int64_t>(SourceText.size());
+    const auto n = static_cast<std::int64_t>(CurrentWord.size());
+    // CurrentWord holds the capitals folded: the source has them as typed.
+    const std::string_view typed = sourceAt(ScanPos - n + 1, CurrentWord.size());
+    const bool sameRun = typed.size() == CurrentWord.size() &&
+                         std::equal(typed.begin(), typed.end(), CurrentWord.begin(), [](char t, char w) {
+                             const auto u = static_cast<unsigned char>(t);
+                             const auto folded = u >= 'A' && u <= 'Z' ? u + 32 : font::toSmall(u);
+                             return t == w || static_cast<char>(folded) == w;
+                         });
+    OutputText += sameRun ? typed : std::string_view(CurrentWord);
+    CurrentWord.clear();
+    ++ScanPos;
+    const std::int64_t from = ScanPos;
+    while (ScanPos <= len && !isRawWordDelimiter(static_cast<unsigned char>(SourceText[static_cast<std::size_t>(ScanPos - 1)])))
+        ++ScanPos;
+    OutputText += sourceAt(from, static_cast<std::size_t>(ScanPos - from));
 }
 
 void Engine::chkrch() {
@@ -220,6 +274,7 @@ bool Engine::scanTurn() {
     }
 
     if (c() != kNoChar) CurrentWord += static_cast<char>(c());
+    if (CurrentWord.size() > kLongestWord) passLongRun();
     RawWord = CurrentWord;
     if (SpellMode == 1) textselection();
     if (!RawWord.empty() && isRawWordDelimiter(static_cast<unsigned char>(RawWord.back()))) RawWord.pop_back();
@@ -363,6 +418,10 @@ bool Engine::scanTurn() {
     const int d = c();
     if (d != kNoChar && isCopiedDelimiter(static_cast<unsigned char>(d))) {
         OutputText += static_cast<char>(d);
+    } else if (d == '_' && (sourceAt(ScanPos - 1, 1) == "_" || sourceAt(ScanPos + 1, 1) == "_")) {
+        // One underscore joining two words is dropped; a line of them is a blank to fill in,
+        // text the reader needs.
+        OutputText += '_';
     } else if (d == ':') {
         if (!QuestionMarkHold.empty()) {
             OutputText += QuestionMarkHold;

@@ -496,6 +496,7 @@ TriggerReturn have(Engine& e) {
     if (e.CurrentWord == "had") e.HaveForm = 2;
     else if (e.CurrentWord == "has") e.HaveForm = 3;
     else if (e.CurrentWord == "have") e.HaveForm = 1;
+    e.HaveFormPos = e.ScanPos;
     e.CurrentWord.clear();
     return F;
 }

@@ -1,5 +1,6 @@
 #include "text/converters.h"
 
+#include <charconv>
 #include <fstream>
 #include <thread>
 
@@ -94,6 +95,19 @@ std::string utf16FileBytes(std::string_view DialogText) {
     return bytes;
 }
 
+// A line of the enc file as a number: blanks and a sign before the digits, and what follows
+// them, are passed over; a line that holds no number, or one too large, reads as 0. Someone may
+// have edited the file between the write and the read, and a bad line must not end the program.
+namespace {
+int encNumber(std::string_view line) {
+    while (!line.empty() && line.front() == ' ') line.remove_prefix(1);
+    if (!line.empty() && line.front() == '+') line.remove_prefix(1);
+    int value = 0;
+    const auto r = std::from_chars(line.data(), line.data() + line.size(), value);
+    return r.ec == std::errc() ? value : 0;
+}
+}  // namespace
+
 bool decd_Click(const std::filesystem::path& encPath, std::string& Utf16Body) {
     std::ifstream enc(encPath, std::ios::binary);
     if (!enc) return false;
@@ -101,7 +115,7 @@ bool decd_Click(const std::filesystem::path& encPath, std::string& Utf16Body) {
     while (std::getline(enc, line)) {
         if (!line.empty() && line.back() == '\r') line.pop_back();
         if (line.empty()) continue;
-        Utf16Body += static_cast<char>(std::stoi(line) & 0xFF);
+        Utf16Body += static_cast<char>(encNumber(line) & 0xFF);
     }
     return true;
 }

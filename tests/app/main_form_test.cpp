@@ -148,6 +148,22 @@ TEST(MainForm, SettingsSurviveARestart) {
     EXPECT_EQ(f.form->text4Font().name, "DejaVu Sans Mono");
 }
 
+TEST(MainForm, AColourRecordBeyondThe32BitRangeLeavesTheColourAsItIs) {
+    for (const std::string& record :
+         {std::string("10000000000000000000"), std::string("-10000000000000000000"), std::string("4294967296"),
+          "1" + std::string(40, '0')}) {  // 45 characters fit a record
+        SCOPED_TRACE(record);
+        Fixture f;
+        writeSettingsRecord(f.data, 5, record);
+        ASSERT_EQ(f.start(), StartResult::Started);
+        EXPECT_EQ(f.form->text4Font().color, Text4Font{}.color);
+    }
+    Fixture f;
+    writeSettingsRecord(f.data, 5, "4294967295");  // the largest 32-bit colour
+    ASSERT_EQ(f.start(), StartResult::Started);
+    EXPECT_EQ(f.form->text4Font().color, 4294967295);
+}
+
 // ---- Exit --------------------------------------------------------------------------------
 
 TEST(MainForm, ExitAsksAboutAResultAndCancelLeavesTheDerivedFilesDeleted) {

@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# Runs the libFuzzer targets of a fuzz build one after the other, FUZZ_SECONDS each (default 60),
+# at the lowest priority. Usage: fuzz/run.sh BUILD_DIR [TARGET...] (default: every target).
+# Fails on a crash, a leak, an input slower than 2 s or one that needs more than 1 GB; the input
+# is left in BUILD_DIR/fuzz-work/TARGET/findings/. New inputs the fuzzer finds stay in
+# BUILD_DIR/fuzz-work/TARGET/corpus/; the seed corpus in fuzz/corpus/ is only read.
+set -uo pipefail
+build=${1:?usage: fuzz/run.sh BUILD_DIR [TARGET...]}
+shift
+seconds=${FUZZ_SECONDS:-60}
+seeds="$(cd "$(dirname "$0")" && pwd)/corpus"
+
+targets=("$@")
+if [ ${#targets[@]} -eq 0 ]; then
+  for bin in "$build"/bin/fuzz_*; do targets+=("$(basename "$bin" | sed 's/^fuzz_//')"); done
+fi
+
+# Stack traces with function names, when the symbolizer of the fuzz compiler is there.
+if [ -z "${ASAN_SYMBOLIZER_PATH:-}" ] && [ -x /usr/lib/llvm-19/bin/llvm-symbolizer ]; then
+  export ASAN_SYMBOLIZER_PATH=/usr/lib/llvm-19/bin/llvm-symbolizer
+fi
+
+failed=()
+for t in "${targets[@]}"; do
+  work="$build/fuzz-work/$t"
+  mkdir -p "$work/corpus" "$work/findings"
+  echo "== fuzz_$t for $seconds s"
+  nice -n 19 "$build/bin/fuzz_$t" -max_total_time="$seconds" -timeout=2 -rss_limit_mb=1024 \
+    -malloc_limit_mb=1024 -detect_leaks=1 -print_final_stats=1 -artifact_prefix="$work/findings/" \
+    "$work/corpus" "$seeds/$t" >"$work/log" 2>&1
+  status=$?
+  grep -E '^(stat::number_of_executed_units|stat::peak_rss_mb|SUMMARY|fuzz finding|==[0-9]+==ERROR)' "$work/log"
+  if [ $status -ne 0 ]; then
+    failed+=("$t")
+    echo "fuzz_$t FAILED (exit $status): see $work/log and $work/findings/"
+  fi
+done
+if [ ${#failed[@]} -gt 0 ]; then
+  echo "failed: ${failed[*]}"
+  exit 1
+fi
+echo "all fuzz targets passed"
