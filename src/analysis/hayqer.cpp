@@ -647,6 +647,8 @@ Step EndingAnalysis::stage1() {
         w += "լ"_ft;
         lookUp();
     } else if (end == "s") {
+        // Only the "s" comes off: "catches" leaves "catche", which no record matches; the plurals in
+        // "-es" of nouns and the third person in "-es" of verbs stand in the dictionary as keys.
         if (e.englishToArmenian()) {
             if (e.HaveForm.empty()) {
                 e.PendingEnding = FontText("ներ"_ft) + e.PendingEnding;

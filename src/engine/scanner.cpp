@@ -54,6 +54,18 @@ bool oneOf(std::string_view s, std::initializer_list<std::string_view> words) {
     return std::find(words.begin(), words.end(), s) != words.end();
 }
 
+constexpr bool isAsciiLetter(int c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+
+// "'d" is "had" before a past participle ("I'd gone", "she'd been", "we'd better"); any other word
+// ("I'd like", "they'd go") takes "would".
+bool isContractedHad(std::string_view next) {
+    return next.ends_with("ed") ||
+           oneOf(next, {"been", "better", "had", "got", "gone", "done", "seen", "known", "taken", "given",
+                        "written", "made", "found", "left", "lost", "heard", "thought", "told", "said", "come",
+                        "become", "forgotten", "eaten", "spoken", "broken", "chosen", "begun", "run", "never",
+                        "already", "just", "ever"});
+}
+
 void replaceAll(std::string& s, std::string_view from, std::string_view to) {
     std::size_t pos = 0;
     while ((pos = s.find(from, pos)) != std::string::npos) {
@@ -297,6 +309,19 @@ bool Engine::scanTurn() {
         teqst_dblclick();
         OutputText += ' ';
         CurrentWord = am ? "am" : "are";
+    }
+
+    // "'ve" stands for "have" and "'d" for "had" or "would", told by the word after it, the
+    // same way: the word before is looked up and the full form follows.
+    if (englishSource && (atIs("'ve ") || atIs("\x92ve ") || atIs("'d ") || atIs("\x92" "d "))) {
+        const bool have = atIs("'ve ") || atIs("\x92ve ");
+        if (!CurrentWord.empty()) CurrentWord.pop_back();
+        ScanPos += have ? 3 : 2;
+        std::string after;
+        for (std::int64_t p = ScanPos + 1; isAsciiLetter(charAt(p)); ++p) after += static_cast<char>(charAt(p));
+        teqst_dblclick();
+        OutputText += ' ';
+        CurrentWord = have ? "have" : (isContractedHad(after) ? "had" : "would");
     }
 
     // The dictionary's key is 20 characters wide: a longer word goes to the ending analysis.
