@@ -22,8 +22,6 @@ void appendUtf8(std::string& out, char32_t cp) {
 
 namespace {
 
-constexpr char32_t kOneDotLeader = 0x2024;
-
 void appendEscape(FontText& out, char32_t cp) {
     out += static_cast<char>(font::kEscape);
     for (int shift = 4 * (font::kEscapeDigits - 1); shift >= 0; shift -= 4)
@@ -63,8 +61,7 @@ FontText fromUtf8(std::string_view utf8, Utf8Report* report) {
             if (report->invalidSequences == 0) report->firstInvalidOffset = at;
             ++report->invalidSequences;
         }
-        // Many Armenian texts type the one-dot leader for the full stop "։", which is read as ":".
-        const int code = cp == kOneDotLeader ? ':' : font::codeOf(cp);
+        const int code = font::codeOf(cp);
         if (code >= 0)
             out += static_cast<char>(code);
         else

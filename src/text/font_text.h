@@ -82,6 +82,7 @@ constexpr int codeOf(char32_t u) {
         case 0x00AB: return kOpenGuillemet;
         case 0x00BB: return kCloseGuillemet;
         case 0x0589: return ':';  // the Armenian full stop is written as a colon
+        case 0x2024: return ':';  // the one-dot leader, which many texts type for the full stop
         case 0x2026: return kEllipsis;
         case 0x2018: return kLeftSingleQuote;
         case 0x2019: return kRightSingleQuote;
