@@ -25,6 +25,7 @@
 #include <QVBoxLayout>
 
 #include "app/add_word_panel.h"
+#include "shell/phonetic_input.h"
 #include "shell/qt_text.h"
 #include "shell/shell_menus.h"
 
@@ -529,20 +530,7 @@ bool Form1::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool Form1::handleKey(QObject* box, QKeyEvent* key) {
-    const QString typed = key->text();
-    if (typed.size() != 1 || (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)))
-        return false;
-    const char16_t c = typed.at(0).unicode();
-    if (c < 0x20 || c >= 0x80) return false;
-    const unsigned char mapped = logic_->typedKey(static_cast<unsigned char>(c));
-    if (mapped == c) return false;
-    const QString letter(QChar(static_cast<char16_t>(font::unicodeOf(mapped))));
-    if (auto* edit = qobject_cast<QPlainTextEdit*>(box)) {
-        edit->insertPlainText(letter);
-    } else if (auto* line = qobject_cast<QLineEdit*>(box)) {
-        line->insert(letter);
-    }
-    return true;
+    return insertPhonetic(box, key, [this](unsigned char c) { return logic_->typedKey(c); });
 }
 
 void Form1::endProgram() {
