@@ -291,11 +291,22 @@ bool Engine::scanTurn() {
     if (SpellMode == 1) textselection();
     if (!RawWord.empty() && isRawWordDelimiter(static_cast<unsigned char>(RawWord.back()))) RawWord.pop_back();
 
+    // The look-up of the word before a contraction can send the scanner back to read that word
+    // again (after "have", a word that is no verb). The contraction is then read again with it:
+    // expanding it now would set "have" once more before the same word, and the run would loop.
+    const auto lookUpWordBefore = [this] {
+        const std::int64_t resume = ScanPos;
+        teqst_dblclick();
+        if (ScanPos >= resume) return true;
+        CurrentWord.clear();
+        return false;
+    };
+
     // "'ll": the word before is looked up, and "shall" follows.
     if (atIs("'ll") || atIs("\x92ll")) {
         if (!CurrentWord.empty()) CurrentWord.pop_back();
         ScanPos += 3;
-        teqst_dblclick();
+        if (!lookUpWordBefore()) return true;
         OutputText += ' ';
         CurrentWord = "shall";
     }
@@ -306,7 +317,7 @@ bool Engine::scanTurn() {
         const bool am = atIs("'m ") || atIs("\x92m ");
         if (!CurrentWord.empty()) CurrentWord.pop_back();
         ScanPos += am ? 2 : 3;
-        teqst_dblclick();
+        if (!lookUpWordBefore()) return true;
         OutputText += ' ';
         CurrentWord = am ? "am" : "are";
     }
@@ -319,7 +330,7 @@ bool Engine::scanTurn() {
         ScanPos += have ? 3 : 2;
         std::string after;
         for (std::int64_t p = ScanPos + 1; isAsciiLetter(charAt(p)); ++p) after += static_cast<char>(charAt(p));
-        teqst_dblclick();
+        if (!lookUpWordBefore()) return true;
         OutputText += ' ';
         CurrentWord = have ? "have" : (isContractedHad(after) ? "had" : "would");
     }

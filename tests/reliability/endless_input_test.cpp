@@ -68,6 +68,24 @@ TEST_F(ShippedEngine, HaveWithASignReadsTheNextWordAgainFromThatSign) {
     EXPECT_EQ(translate("I have-it"), "Ես -ունեցա-դա ");
 }
 
+// After "had" and a run longer than any word, "can'd" looks up "can", which is no verb: the
+// scanner goes back to read "can" again, and the "'d" is read again with it rather than expanded
+// to a second "had" before the same word (found by fuzzing: the run stood still for ever).
+TEST_F(ShippedEngine, AContractionWhoseWordBeforeIsReadAgainIsExpandedOnlyOnTheSecondReading) {
+    const std::string longRun(41, 'q');
+    for (const char* contraction : {"'d", "'ve"}) {
+        SCOPED_TRACE(contraction);
+        const std::string out = translate("We had " + longRun + " can" + contraction + " come");
+        EXPECT_EQ(engine->state, RunState::Idle);
+        EXPECT_FALSE(engine->stopped.has_value()) << engine->stopped->reason;
+        EXPECT_EQ(out, "Մենք " + longRun + " ունեցանք կարող եկել ");
+    }
+    const std::string fuzzed = "'d come\uFFFD\uFFFD\uFFFD\uFFFDt can'd come, we\uFFFD'll";
+    translate(fuzzed);
+    EXPECT_EQ(engine->state, RunState::Idle);
+    EXPECT_FALSE(engine->stopped.has_value()) << engine->stopped->reason;
+}
+
 TEST_F(ShippedEngine, ANovelWithOneHadDashDashNotIsTranslatedToItsEnd) {
     std::string text;
     for (int i = 0; i < 2000; ++i) text += "The house is big. ";
