@@ -11,6 +11,8 @@ SANITIZE_DIR ?= build-sanitize
 FUZZ_DIR ?= build-fuzz
 FUZZ_SECONDS ?= 60
 FUZZ_TARGETS ?=
+# How many targets fuzz at once; they run at idle priority, so more than the cores is harmless.
+FUZZ_JOBS ?= 1
 FUZZ_CXX ?= clang++-19
 # Debian 12's clang 14 crashes on the largest rule file; clang 19 with its libFuzzer runtime.
 FUZZ_PACKAGES ?= clang-19 libclang-rt-19-dev
@@ -53,7 +55,7 @@ fuzz:
 	cmake -S . -B $(FUZZ_DIR) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=$(FUZZ_CXX) \
 		-DVORLEXA_FUZZ=ON -DVORLEXA_BUILD_TESTS=OFF -DVORLEXA_BUILD_BENCH=OFF -DVORLEXA_BUILD_DESKTOP=OFF
 	cmake --build $(FUZZ_DIR) -j $(JOBS)
-	FUZZ_SECONDS=$(FUZZ_SECONDS) bash fuzz/run.sh $(FUZZ_DIR) $(FUZZ_TARGETS)
+	FUZZ_SECONDS=$(FUZZ_SECONDS) FUZZ_JOBS=$(FUZZ_JOBS) bash fuzz/run.sh $(FUZZ_DIR) $(FUZZ_TARGETS)
 
 bench: build
 	@for b in $(BUILD_DIR)/bin/bench_*; do [ -x "$$b" ] && "$$b"; done

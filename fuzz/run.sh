@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
-# Runs the libFuzzer targets of a fuzz build one after the other, FUZZ_SECONDS each (default 60),
-# at the lowest priority. Usage: fuzz/run.sh BUILD_DIR [TARGET...] (default: every target).
+# Runs the libFuzzer targets of a fuzz build, FUZZ_SECONDS each (default 60), FUZZ_JOBS of them at
+# a time (default 1), at the lowest priority: with `chrt --idle` where the system has it, so that
+# long runs only take the time nothing else wants. Usage: fuzz/run.sh BUILD_DIR [TARGET...]
+# (default: every target).
 # Fails on a crash, a leak, an input slower than 2 s or one that needs more than 1 GB; the input
 # is left in BUILD_DIR/fuzz-work/TARGET/findings/. New inputs the fuzzer finds stay in
 # BUILD_DIR/fuzz-work/TARGET/corpus/; the seed corpus in fuzz/corpus/ is only read.
@@ -20,20 +22,38 @@ if [ -z "${ASAN_SYMBOLIZER_PATH:-}" ] && [ -x /usr/lib/llvm-19/bin/llvm-symboliz
   export ASAN_SYMBOLIZER_PATH=/usr/lib/llvm-19/bin/llvm-symbolizer
 fi
 
-failed=()
-for t in "${targets[@]}"; do
-  work="$build/fuzz-work/$t"
+jobs=${FUZZ_JOBS:-1}
+lowest=(nice -n 19)
+if chrt --idle 0 true 2>/dev/null; then lowest=(chrt --idle 0 nice -n 19); fi
+
+# One target; its summary lines and verdict are printed together when it ends.
+fuzz_one() {
+  local t=$1 work="$build/fuzz-work/$1" status
   mkdir -p "$work/corpus" "$work/findings"
-  echo "== fuzz_$t for $seconds s"
-  nice -n 19 "$build/bin/fuzz_$t" -max_total_time="$seconds" -timeout=2 -rss_limit_mb=1024 \
+  rm -f "$work/failed"
+  "${lowest[@]}" "$build/bin/fuzz_$t" -max_total_time="$seconds" -timeout=2 -rss_limit_mb=1024 \
     -malloc_limit_mb=1024 -detect_leaks=1 -print_final_stats=1 -artifact_prefix="$work/findings/" \
     "$work/corpus" "$seeds/$t" >"$work/log" 2>&1
   status=$?
-  grep -E '^(stat::number_of_executed_units|stat::peak_rss_mb|SUMMARY|fuzz finding|==[0-9]+==ERROR)' "$work/log"
-  if [ $status -ne 0 ]; then
-    failed+=("$t")
-    echo "fuzz_$t FAILED (exit $status): see $work/log and $work/findings/"
-  fi
+  {
+    echo "== fuzz_$t, $seconds s"
+    grep -E '^(stat::number_of_executed_units|stat::peak_rss_mb|SUMMARY|fuzz finding|==[0-9]+==ERROR)' "$work/log"
+    [ $status -ne 0 ] && echo "fuzz_$t FAILED (exit $status): see $work/log and $work/findings/"
+  } > "$work/summary"
+  cat "$work/summary"
+  [ $status -eq 0 ] || touch "$work/failed"
+}
+
+for t in "${targets[@]}"; do
+  while [ "$(jobs -rp | wc -l)" -ge "$jobs" ]; do wait -n || true; done
+  echo "== fuzz_$t started, $seconds s"
+  fuzz_one "$t" &
+done
+wait
+
+failed=()
+for t in "${targets[@]}"; do
+  [ -e "$build/fuzz-work/$t/failed" ] && failed+=("$t")
 done
 if [ ${#failed[@]} -gt 0 ]; then
   echo "failed: ${failed[*]}"
