@@ -176,7 +176,7 @@ def main():
             with open(path, "a", encoding="utf-8") as f:
                 f.write(BLOCK_HEADER + "\n" + "\n".join(lines) + "\n")
         print(f"british_spellings.py: {len(lines)} records appended to {path}", file=sys.stderr)
-    else:
+    elif lines:
         print("\n".join(lines))
 
 
