@@ -92,10 +92,19 @@ void Engine::teqst_ArmenianToEnglish() {
     WordTag = DictRecord.tag();
     const char tag1 = WordTag[0];
 
-    // A key that is a verbal form is read again through its infinitive, as an "ing" form.
-    if (WordTag[4] == 'v' && CurrentWord.ends_with("ում"_ft)) {
+    // A key that is a verbal form is read again through its infinitive, as an "ing" form. The
+    // verbs in "-վել" are glossed with a participle ("held"), so their forms in "-վում" keep a
+    // gloss of their own ("being held").
+    if (WordTag[4] == 'v' && CurrentWord.ends_with("ում"_ft) && !CurrentWord.ends_with("վում"_ft)) {
         CurrentWord = CurrentWord.substr(0, CurrentWord.size() - 3) + FontText("ալ"_ft);
         VerbFormMark = "ing";
+        // As in the ending analysis, "գրում է" is one word: the third person, the "է" read with it;
+        // "էի" and "էր" keep the "ing" form.
+        const auto next2 = sourceAt(ScanPos + 1, 2);
+        if (next2 != "էի"_ft && next2 != "էր"_ft && nextIs("է"_ft)) {
+            ThirdPersonEnding = 1;
+            ScanPos += 2;
+        }
         teqst_dblclick();
         return;
     }

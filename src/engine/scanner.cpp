@@ -453,6 +453,15 @@ bool Engine::scanTurn() {
     // The delimiter itself.
     const int d = c();
     if (d != kNoChar && isCopiedDelimiter(static_cast<unsigned char>(d))) {
+        // In Armenian text a number is a word group of its own, like a word that was looked up:
+        // an auxiliary or a postposition after it goes before it ("ժամը 11 է" "hour is 11").
+        // The sign after it ("5-ն", "10%") belongs to the group.
+        const bool sameNumber = !OutputText.empty() && isAsciiDigit(OutputText.back());
+        if (Check1 == 1 && (isAsciiDigit(d) || (sameNumber && (d == '-' || d == '%')))) {
+            CopyDepth = sameNumber ? CopyDepth + 1 : 1;
+            VerbBackOffset = CopyDepth + EnglishAuxBack;
+            EnglishAuxBack = 0;
+        }
         OutputText += static_cast<char>(d);
     } else if (d == '_' && (sourceAt(ScanPos - 1, 1) == "_" || sourceAt(ScanPos + 1, 1) == "_")) {
         // One underscore joining two words is dropped; a line of them is a blank to fill in,
