@@ -166,6 +166,10 @@ void Engine::resetSentence() {
     QuestionMarkHold.clear();
     QuestionMarkPosition = 0;
     GenitiveMark.clear();
+    // Flags the word rules declare for themselves last one sentence: a "would" must not make the
+    // "will" of the sentences after it conditional.
+    ConditionalFlag.clear();
+    SpeechVerbFlag.clear();
 
     FutureParticle.clear();
     CaseEndingSeen.clear();

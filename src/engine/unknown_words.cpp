@@ -195,6 +195,10 @@ void Engine::reportUnknownWord() {
         OutputText += PendingEnding;
         OutputText += ArticleEnding;
         noteWordGroupWritten(*this, RawWord.size() + PendingEnding.size() + ArticleEnding.size());
+        // The endings are written on the word: the tail of the word end must not write them again
+        // ("zorbիցից") or carry them to the next word.
+        PendingEnding.clear();
+        ArticleEnding.clear();
         CurrentWord.clear();
         QuestionMarkHold.clear();
         return;

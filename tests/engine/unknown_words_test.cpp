@@ -98,6 +98,13 @@ TEST(UnknownWords, NewTermLosesThePendingEndings) {
     EXPECT_TRUE(e.ArticleEnding.empty());
 }
 
+TEST(UnknownWords, RepeatedTermTakesItsEndingsOnce) {
+    EngineFixture f(kSmallLexicon);
+    // The first "zorb" is a new term and loses the ending; the second is written as it stands with
+    // the ablative "ից" of "from", once.
+    EXPECT_EQ(f.translate("from zorb big. from zorb."), "zorb մեծ: zorbից: ");
+}
+
 TEST(UnknownWords, ListOfUnknownTermsIsAppendedWhenAsked) {
     EngineFixture f(kSmallLexicon);
     f.host.setChecked(MenuItem::SUT, true);
