@@ -107,6 +107,12 @@ void ameninch(Engine& e) {
     if (next(e, "ինչ"_ft) || next(e, "բան"_ft)) {
         word(e, "");
         insert(e, "everything");
+        // "everything" is the word group a postposition or an auxiliary after it goes before
+        // ("ամեն ինչի համար" is "for everything"), as a looked-up word would be.
+        const std::string_view written = "everything";
+        e.CopyDepth = static_cast<std::int64_t>(written.size());
+        e.VerbBackOffset = e.CopyDepth + e.EnglishAuxBack;
+        e.EnglishAuxBack = 0;
         e.ScanPos += 3;
     }
 }

@@ -65,6 +65,14 @@ TEST(ArmenianExpressions, Mekangam) {
     EXPECT_EQ(miss.output(), "");
 }
 
+TEST(ArmenianExpressions, AmeninchMakesEverythingTheWordGroupAPostpositionGoesBefore) {
+    Rule r("ամեն", "ինչ");
+    ameninch(r.e());
+    // "everything" is ten letters: a postposition after it goes in front of all of them.
+    EXPECT_EQ(r.e().CopyDepth, 10);
+    EXPECT_EQ(r.e().VerbBackOffset, 10);
+}
+
 TEST(ArmenianExpressions, AmeninchAndDyuzninch) {
     for (const char* next : {"ինչ", "բան"}) {
         Rule r("ամեն", next);
