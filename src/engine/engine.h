@@ -28,6 +28,7 @@
 
 #include "engine/dictionary_store.h"
 #include "engine/host.h"
+#include "engine/pair_repairs.h"
 #include "engine/progress_guard.h"
 #include "engine/var.h"
 #include "text/font_text.h"
@@ -286,10 +287,7 @@ private:
         bool loaded = false;
         std::uintmax_t size = 0;
         std::filesystem::file_time_type writeTime;
-        std::vector<std::pair<FontText, FontText>> pairs;  // find, replace; empty finds left out
-        // A searcher of each find, made once: it skips along a long text instead of stopping at
-        // every occurrence of the find's first character.
-        std::vector<std::boyer_moore_horspool_searcher<const char*>> searchers;
+        PairRepairs repairs;  // find, replace; empty finds left out
     };
     const PairList* pairList(const std::string& name);
     std::map<std::string, PairList> pairLists_;
