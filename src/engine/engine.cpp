@@ -39,11 +39,17 @@ void Engine::openTermsFile() {
         termsIndex_.insert(FontText(trimBlanks(TermsFile.read(n))));
 }
 
+void Engine::ensureTermsFile() {
+    if (!termsFilePending_) return;
+    termsFilePending_ = false;
+    openTermsFile();
+}
+
 void Engine::Text3_Change(const FontText& text) {
     if (checked(MenuItem::EdtTr)) host.setChecked(MenuItem::EdtTr, false);
     QuoteCount = 0;
     QuestionCount = 0;
-    openTermsFile();
+    termsFilePending_ = true;
 
     // The scanner needs a delimiter after the last word.
     SourceText = foldDoubleBlanks(text);
@@ -70,6 +76,7 @@ void Engine::Text3_Change(const FontText& text) {
     const double length = static_cast<double>(SourceText.size());
 
     if (static_cast<double>(questions) / length * 100.0 >= kUnicodeQuestionShare) {
+        ensureTermsFile();
         host.notify(Notice{{FontText("Armenian text is UNICODE.\r\nClick 'Ctrl+V' after 'OK' to continue."),
                             FontText("Հայերեն տեքստը UNICODE է:"_ft) + "\r\n" +
                                 FontText("Շարունակության համար 'OK'-ից հետո սեղմեք 'Ctrl+V':"_ft)},

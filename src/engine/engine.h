@@ -152,9 +152,14 @@ public:
         const char* at = SourceText.data() + (pos - 1);
         return at[0] == literal[0] && std::string_view(at, literal.size()) == literal;
     }
-    // The text at ScanPos + 1 compared with a literal over the literal's length.
-    bool nextIs(std::string_view literal) const { return sourceIs(ScanPos + 1, literal); }
-    bool atIs(std::string_view literal) const { return sourceIs(ScanPos, literal); }
+    // The text at ScanPos + 1 compared with a literal over the literal's length. The scanner asks
+    // dozens of these a character, so the first byte is tested before the call.
+    bool nextIs(std::string_view literal) const { return mayStartAt(ScanPos + 1, literal) && sourceIs(ScanPos + 1, literal); }
+    bool atIs(std::string_view literal) const { return mayStartAt(ScanPos, literal) && sourceIs(ScanPos, literal); }
+    bool mayStartAt(std::int64_t pos, std::string_view literal) const {
+        return literal.empty() ||
+               (pos >= 1 && static_cast<std::uint64_t>(pos) <= SourceText.size() && SourceText[static_cast<std::size_t>(pos - 1)] == literal[0]);
+    }
     bool outputEndsWith(std::string_view s) const { return std::string_view(OutputText).ends_with(s); }
     bool englishToArmenian() const { return Check1 == 0; }
 
@@ -272,6 +277,10 @@ public:
 
 private:
     void openTermsFile();
+    // The TermsFile is made when a run first needs it: at its first unknown word, for the list
+    // of untranslated terms, or when the run hands the window back before it ends.
+    void ensureTermsFile();
+    bool termsFilePending_ = false;  // a run has begun and its TermsFile is not open yet
     void refuseUnknownWordQuestions();
     bool scanTurn();  // one turn of the scanner; false when the scanner must leave
     void wordEndTail(int c);
@@ -285,8 +294,7 @@ private:
     // expression editor rewrites it between runs).
     struct PairList {
         bool loaded = false;
-        std::uintmax_t size = 0;
-        std::filesystem::file_time_type writeTime;
+        FileStamp stamp;
         PairRepairs repairs;  // find, replace; empty finds left out
     };
     const PairList* pairList(const std::string& name);

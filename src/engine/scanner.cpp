@@ -103,10 +103,12 @@ void Engine::ankap0_DblClick() {
         progressStep();
         if (!guardTurn(before)) return;
         if (!goOn) {
+            ensureTermsFile();
             state = RunState::Waiting;
             return;
         }
         if (yieldBetweenWords && CurrentWord.empty() && yieldBetweenWords()) {
+            ensureTermsFile();
             state = RunState::Suspended;
             return;
         }

@@ -52,15 +52,7 @@ void replaceAll(FontText& text, std::string_view find, std::string_view with) {
 const Engine::PairList* Engine::pairList(const std::string& name) {
     const std::filesystem::path path = dataFolder / name;
     PairList& list = pairLists_[path.string()];
-    const auto stamp = [&path](std::uintmax_t& size, std::filesystem::file_time_type& time) {
-        std::error_code ec;
-        size = std::filesystem::file_size(path, ec);
-        if (!ec) time = std::filesystem::last_write_time(path, ec);
-        return !ec;
-    };
-    std::uintmax_t size = 0;
-    std::filesystem::file_time_type time;
-    if (list.loaded && stamp(size, time) && size == list.size && time == list.writeTime) return &list;
+    if (list.loaded && FileStamp::of(path) == list.stamp) return &list;
 
     list = PairList();
     RecordFile pairs;
@@ -77,8 +69,11 @@ const Engine::PairList* Engine::pairList(const std::string& name) {
     list.repairs = PairRepairs(std::move(found));
     // A time stamp has a coarse tick: a list written just before it was read could be written again
     // under the same stamp and size, so such a list is read again until its stamp has settled.
-    const bool stamped = stamp(list.size, list.writeTime);
-    list.loaded = stamped && std::filesystem::file_time_type::clock::now() - list.writeTime > kStampSettle;
+    const std::optional<FileStamp> stamp = FileStamp::of(path);
+    if (stamp) list.stamp = *stamp;
+    const auto now = std::chrono::duration_cast<std::chrono::nanoseconds>(
+                         std::chrono::system_clock::now().time_since_epoch()).count();
+    list.loaded = stamp && now - list.stamp.modifiedNs > std::chrono::nanoseconds(kStampSettle).count();
     return &list;
 }
 
@@ -125,6 +120,7 @@ void Engine::TransEndProcedure() {
                            FontText("Թարգմանությունը տևեց "_ft) + minutes + FontText(" րոպե և "_ft) + seconds +
                                FontText(" վայրկյան:"_ft)});
         }
+        if (checked(MenuItem::SUT)) ensureTermsFile();
         if (checked(MenuItem::SUT) && TermsFile.isOpen() && TermsFile.recordCount() > 0) {
             FontText list;
             for (std::int64_t n = 1; n <= TermsFile.recordCount(); ++n) {
@@ -145,6 +141,7 @@ void Engine::TransEndProcedure() {
         host.setResultText(SourceText);
     }
     TermsFile = RecordFile();
+    termsFilePending_ = false;
     std::error_code ignored;
     std::filesystem::remove(dataFolder / kTermsFileName, ignored);
     host.setBusy(false);
