@@ -11,6 +11,9 @@ namespace {
 
 constexpr double kUnicodeQuestionShare = 60.0;  // percent of "?": Unicode pasted into a byte box
 constexpr double kQuoteLetterShare = 4.0;       // percent of '"': the quote writes the letter "ե"
+// A translation is seldom twice as long as its source; pages of the room it leaves unused are never
+// touched, so they cost no memory.
+constexpr std::size_t kResultRoomPerSourceByte = 2;
 
 // Replaces each double blank by one blank in a single left-to-right pass, so that three blanks
 // become two.
@@ -59,6 +62,8 @@ void Engine::Text3_Change(const FontText& text) {
     ArmenianCount = 1;
     TimeOfStart = std::chrono::steady_clock::now();
     OutputText.clear();
+    // Room for the result at once: growing a long result step by step holds two copies at each step.
+    OutputText.reserve(SourceText.size() * kResultRoomPerSourceByte);
     // A spell-check pass shows the text it checks, so that the word in question can be selected.
     host.setResultText(SpellMode == 1 ? SourceText : FontText{});
 

@@ -103,7 +103,8 @@ void Engine::TransEndProcedure() {
     resetSentence();
     if (SpellMode != 1) {
         host.setResultText(OutputText);
-        SourceText.clear();
+        // The source's memory goes back before the repair makes its copy of a long result.
+        FontText().swap(SourceText);
         poqr_uxxumner1();
         host.setResultText(OutputText);
         if (host.progressShown() && !checked(MenuItem::Chat)) host.showProgress(false);
