@@ -77,6 +77,8 @@ TEST(PairRepair, APairListRewrittenBetweenRunsIsReadAgain) {
     EXPECT_EQ(e.OutputText, "old old");
 }
 
+using Pairs = std::vector<std::pair<std::string, std::string>>;
+
 // The repair as its definition reads: one search of the whole text per pair, in order.
 std::string repairedPairByPair(std::string text, const std::vector<std::pair<std::string, std::string>>& pairs) {
     for (const auto& [find, with] : pairs) {
@@ -102,14 +104,14 @@ TEST(PairRepairs, AnEmptyReplacementJoinsTheTextAroundItForLaterPairs) {
 }
 
 TEST(PairRepairs, AFindHoldingALineBreakIsFoundAcrossTheLines) {
-    const PairRepairs repairs({{"a\nb", "X"}});
+    const PairRepairs repairs(Pairs{{"a\nb", "X"}});
     std::string text = "xa\nby\na\nb";
     repairs.apply(text);
     EXPECT_EQ(text, "xXy\nX");
 }
 
 TEST(PairRepairs, ATextNoFindOccursInIsLeftAsItIs) {
-    const PairRepairs repairs({{"zz", "y"}});
+    const PairRepairs repairs(Pairs{{"zz", "y"}});
     std::string text = "abc\r\nzy\r\n";
     repairs.apply(text);
     EXPECT_EQ(text, "abc\r\nzy\r\n");
