@@ -228,10 +228,10 @@ std::uint32_t keyHash(std::string_view key) {
 }  // namespace
 
 std::int64_t RecordFile::findSlot(const ColumnIndex& index, std::uint32_t hash, std::string_view key) const {
-    if (index.slots.empty()) return 0;
-    const std::size_t mask = index.slots.size() - 1;
+    if (index.keySlots.empty()) return 0;
+    const std::size_t mask = index.keySlots.size() - 1;
     for (std::size_t i = hash & mask;; i = (i + 1) & mask) {
-        const KeySlot& slot = index.slots[i];
+        const KeySlot& slot = index.keySlots[i];
         if (slot.record == 0) return 0;
         if (slot.hash == hash && trimBlanks(mid(view(slot.record), 1, kKeyWidth)) == key) return slot.record;
     }
@@ -250,15 +250,15 @@ const RecordFile::ColumnIndex& RecordFile::column(int stride, int column) const 
     constexpr std::size_t kFewestSlots = 8;
     std::size_t size = kFewestSlots;
     while (size < 2 * records) size *= 2;
-    index.slots.assign(size, KeySlot{});
+    index.keySlots.assign(size, KeySlot{});
     for (std::int64_t rec = column; rec <= count; rec += stride) {
         const std::string_view raw = view(rec);
         const std::string_view key = trimBlanks(mid(raw, 1, kKeyWidth));
         const std::uint32_t hash = keyHash(key);
         if (findSlot(index, hash, key) == 0) {
             std::size_t i = hash & (size - 1);
-            while (index.slots[i].record != 0) i = (i + 1) & (size - 1);
-            index.slots[i] = KeySlot{hash, static_cast<std::uint32_t>(rec)};
+            while (index.keySlots[i].record != 0) i = (i + 1) & (size - 1);
+            index.keySlots[i] = KeySlot{hash, static_cast<std::uint32_t>(rec)};
         }
         if (index.firstNull == 0 && trimBlanks(raw) == kNullKey) index.firstNull = rec;
     }

@@ -136,7 +136,7 @@ private:
     struct ColumnIndex {
         bool built = false;
         std::int64_t firstNull = 0;
-        std::vector<KeySlot> slots;  // a power of two long, at most half full
+        std::vector<KeySlot> keySlots;  // a power of two long, at most half full
     };
     std::int64_t findSlot(const ColumnIndex& index, std::uint32_t hash, std::string_view key) const;
     const ColumnIndex& column(int stride, int column) const;
