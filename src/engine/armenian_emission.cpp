@@ -78,11 +78,11 @@ void Engine::teqst_ArmenianToEnglish() {
     const std::int64_t first = file.firstKeyInColumn(kArmenianStride, static_cast<int>(RangeStart), CurrentWord);
     const bool found = first != 0 && first != file.firstNullInColumn(kArmenianStride, static_cast<int>(RangeStart));
     if (first != 0) {
-        DictRecord.raw = file.read(first);
+        DictRecord.raw.assign(file.view(first));
         if (found) RecIndex = first;
     } else if (RangeStart <= file.recordCount()) {
         // The walk read down to the column's last record.
-        DictRecord.raw = file.read(RangeStart + (file.recordCount() - RangeStart) / kArmenianStride * kArmenianStride);
+        DictRecord.raw.assign(file.view(RangeStart + (file.recordCount() - RangeStart) / kArmenianStride * kArmenianStride));
     }
     if (!found) {
         notFoundPath();

@@ -1,7 +1,12 @@
 #include "engine/dictionary_store.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <array>
 #include <algorithm>
+#include <cerrno>
 #include <fstream>
 #include <system_error>
 
@@ -105,26 +110,48 @@ bool hasArmenianLetter(std::string_view word) {
 
 // --- RecordFile -------------------------------------------------------------------------------
 
+namespace {
+// A file descriptor closed when it goes out of scope.
+struct Descriptor {
+    int fd = -1;
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    explicit Descriptor(int f) : fd(f) {}
+    ~Descriptor() {
+        if (fd >= 0) ::close(fd);
+    }
+};
+}  // namespace
+
+std::optional<FileStamp> FileStamp::of(const std::filesystem::path& path) {
+    struct stat st {};
+    if (::stat(path.c_str(), &st) != 0) return std::nullopt;
+    constexpr std::int64_t kNsPerSecond = 1'000'000'000;
+    return FileStamp{static_cast<std::uint64_t>(st.st_size),
+                     static_cast<std::int64_t>(st.st_mtim.tv_sec) * kNsPerSecond + st.st_mtim.tv_nsec};
+}
+
 bool RecordFile::open(const std::filesystem::path& path, int recordLength) {
     path_ = path;
     recordLength_ = recordLength;
     bytes_.clear();
     open_ = false;
-    std::error_code ec;
-    if (!std::filesystem::exists(path, ec)) {
-        std::ofstream create(path, std::ios::binary);
-        if (!create) return false;
-    }
-    std::ifstream in(path, std::ios::binary);
-    if (!in) return false;
+    // A missing file is made empty; the run's list of unknown words is made this way each run,
+    // so the file is opened once, and read with one call per block.
+    Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (file.fd < 0 && errno == ENOENT) file.fd = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+    if (file.fd < 0) return false;
     dropIndex();
-    // One read of the whole file: the dictionaries are megabytes.
-    in.seekg(0, std::ios::end);
-    const std::streamoff size = in.tellg();
-    in.seekg(0, std::ios::beg);
-    bytes_.resize(static_cast<std::size_t>(std::max<std::streamoff>(size, 0)));
-    in.read(bytes_.data(), static_cast<std::streamsize>(bytes_.size()));
-    bytes_.resize(static_cast<std::size_t>(in.gcount()));
+    struct stat st {};
+    if (::fstat(file.fd, &st) == 0 && st.st_size > 0) bytes_.resize(static_cast<std::size_t>(st.st_size));
+    std::size_t got = 0;
+    while (got < bytes_.size()) {
+        const ssize_t n = ::read(file.fd, bytes_.data() + got, bytes_.size() - got);
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) break;
+        got += static_cast<std::size_t>(n);
+    }
+    bytes_.resize(got);
     open_ = true;
     return true;
 }
@@ -189,6 +216,27 @@ void RecordFile::dropIndex() const {
     columns_.clear();
 }
 
+namespace {
+// FNV-1a over the key's bytes: keys are at most 20 bytes, so a short loop beats a general hash.
+std::uint32_t keyHash(std::string_view key) {
+    constexpr std::uint32_t kOffset = 2166136261u;
+    constexpr std::uint32_t kPrime = 16777619u;
+    std::uint32_t h = kOffset;
+    for (const char ch : key) h = (h ^ static_cast<unsigned char>(ch)) * kPrime;
+    return h;
+}
+}  // namespace
+
+std::int64_t RecordFile::findSlot(const ColumnIndex& index, std::uint32_t hash, std::string_view key) const {
+    if (index.keySlots.empty()) return 0;
+    const std::size_t mask = index.keySlots.size() - 1;
+    for (std::size_t i = hash & mask;; i = (i + 1) & mask) {
+        const KeySlot& slot = index.keySlots[i];
+        if (slot.record == 0) return 0;
+        if (slot.hash == hash && trimBlanks(mid(view(slot.record), 1, kKeyWidth)) == key) return slot.record;
+    }
+}
+
 const RecordFile::ColumnIndex& RecordFile::column(int stride, int column) const {
     if (stride != indexStride_) {
         columns_.assign(static_cast<std::size_t>(stride), ColumnIndex{});
@@ -197,11 +245,21 @@ const RecordFile::ColumnIndex& RecordFile::column(int stride, int column) const 
     ColumnIndex& index = columns_[static_cast<std::size_t>(column - 1)];
     if (index.built) return index;
     index.firstNull = 0;
-    index.firstOfKey.clear();
     const std::int64_t count = recordCount();
+    const std::size_t records = count >= column ? static_cast<std::size_t>((count - column) / stride + 1) : 0;
+    constexpr std::size_t kFewestSlots = 8;
+    std::size_t size = kFewestSlots;
+    while (size < 2 * records) size *= 2;
+    index.keySlots.assign(size, KeySlot{});
     for (std::int64_t rec = column; rec <= count; rec += stride) {
         const std::string_view raw = view(rec);
-        index.firstOfKey.try_emplace(std::string(trimBlanks(mid(raw, 1, kKeyWidth))), rec);
+        const std::string_view key = trimBlanks(mid(raw, 1, kKeyWidth));
+        const std::uint32_t hash = keyHash(key);
+        if (findSlot(index, hash, key) == 0) {
+            std::size_t i = hash & (size - 1);
+            while (index.keySlots[i].record != 0) i = (i + 1) & (size - 1);
+            index.keySlots[i] = KeySlot{hash, static_cast<std::uint32_t>(rec)};
+        }
         if (index.firstNull == 0 && trimBlanks(raw) == kNullKey) index.firstNull = rec;
     }
     index.built = true;
@@ -210,9 +268,7 @@ const RecordFile::ColumnIndex& RecordFile::column(int stride, int column) const 
 
 std::int64_t RecordFile::firstKeyInColumn(int stride, int column, std::string_view key) const {
     if (column < 1 || column > stride) return 0;
-    const ColumnIndex& index = this->column(stride, column);
-    const auto it = index.firstOfKey.find(key);
-    return it == index.firstOfKey.end() ? 0 : it->second;
+    return findSlot(this->column(stride, column), keyHash(key), key);
 }
 
 std::int64_t RecordFile::firstNullInColumn(int stride, int column) const {
@@ -221,12 +277,15 @@ std::int64_t RecordFile::firstNullInColumn(int stride, int column) const {
 }
 
 bool RecordFile::flushRange(std::uint64_t from, std::uint64_t to) {
-    std::fstream out(path_, std::ios::binary | std::ios::in | std::ios::out);
-    if (!out) return false;
-    out.seekp(static_cast<std::streamoff>(from));
-    out.write(bytes_.data() + from, static_cast<std::streamsize>(to - from));
-    out.flush();
-    return static_cast<bool>(out);
+    const Descriptor file(::open(path_.c_str(), O_WRONLY | O_CLOEXEC));
+    if (file.fd < 0) return false;
+    while (from < to) {
+        const ssize_t n = ::pwrite(file.fd, bytes_.data() + from, to - from, static_cast<off_t>(from));
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) return false;
+        from += static_cast<std::uint64_t>(n);
+    }
+    return true;
 }
 
 // --- DictionaryStore --------------------------------------------------------------------------

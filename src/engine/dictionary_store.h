@@ -73,6 +73,14 @@ int skizbaColumn(std::string_view word);
 // True when the word holds an Armenian letter (and so is looked up in the Armenian grid).
 bool hasArmenianLetter(std::string_view word);
 
+// A file's size and time of last change, read in one call; equal stamps mean an unchanged file.
+struct FileStamp {
+    std::uint64_t size = 0;
+    std::int64_t modifiedNs = 0;  // nanoseconds since the epoch
+    bool operator==(const FileStamp&) const = default;
+    static std::optional<FileStamp> of(const std::filesystem::path& path);
+};
+
 // A random-access file of fixed-length records. The records are kept in memory in file order;
 // every write goes through to disk before the call returns.
 class RecordFile {
@@ -119,15 +127,18 @@ public:
 private:
     bool flushRange(std::uint64_t from, std::uint64_t to);
 
-    struct KeyHash {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view s) const { return std::hash<std::string_view>{}(s); }
+    // The first record of each key of a column, in open addressing: a slot holds the key's hash
+    // and its record, whose key in the file is the one compared. Record 0 marks an empty slot.
+    struct KeySlot {
+        std::uint32_t hash = 0;
+        std::uint32_t record = 0;
     };
     struct ColumnIndex {
         bool built = false;
         std::int64_t firstNull = 0;
-        std::unordered_map<std::string, std::int64_t, KeyHash, std::equal_to<>> firstOfKey;
+        std::vector<KeySlot> keySlots;  // a power of two long, at most half full
     };
+    std::int64_t findSlot(const ColumnIndex& index, std::uint32_t hash, std::string_view key) const;
     const ColumnIndex& column(int stride, int column) const;
     void dropIndex() const;
 

@@ -11,6 +11,9 @@ namespace {
 
 constexpr double kUnicodeQuestionShare = 60.0;  // percent of "?": Unicode pasted into a byte box
 constexpr double kQuoteLetterShare = 4.0;       // percent of '"': the quote writes the letter "ե"
+// A translation is seldom twice as long as its source; pages of the room it leaves unused are never
+// touched, so they cost no memory.
+constexpr std::size_t kResultRoomPerSourceByte = 2;
 
 // Replaces each double blank by one blank in a single left-to-right pass, so that three blanks
 // become two.
@@ -39,11 +42,17 @@ void Engine::openTermsFile() {
         termsIndex_.insert(FontText(trimBlanks(TermsFile.read(n))));
 }
 
+void Engine::ensureTermsFile() {
+    if (!termsFilePending_) return;
+    termsFilePending_ = false;
+    openTermsFile();
+}
+
 void Engine::Text3_Change(const FontText& text) {
     if (checked(MenuItem::EdtTr)) host.setChecked(MenuItem::EdtTr, false);
     QuoteCount = 0;
     QuestionCount = 0;
-    openTermsFile();
+    termsFilePending_ = true;
 
     // The scanner needs a delimiter after the last word.
     SourceText = foldDoubleBlanks(text);
@@ -53,6 +62,8 @@ void Engine::Text3_Change(const FontText& text) {
     ArmenianCount = 1;
     TimeOfStart = std::chrono::steady_clock::now();
     OutputText.clear();
+    // Room for the result at once: growing a long result step by step holds two copies at each step.
+    OutputText.reserve(SourceText.size() * kResultRoomPerSourceByte);
     // A spell-check pass shows the text it checks, so that the word in question can be selected.
     host.setResultText(SpellMode == 1 ? SourceText : FontText{});
 
@@ -70,6 +81,7 @@ void Engine::Text3_Change(const FontText& text) {
     const double length = static_cast<double>(SourceText.size());
 
     if (static_cast<double>(questions) / length * 100.0 >= kUnicodeQuestionShare) {
+        ensureTermsFile();
         host.notify(Notice{{FontText("Armenian text is UNICODE.\r\nClick 'Ctrl+V' after 'OK' to continue."),
                             FontText("Հայերեն տեքստը UNICODE է:"_ft) + "\r\n" +
                                 FontText("Շարունակության համար 'OK'-ից հետո սեղմեք 'Ctrl+V':"_ft)},

@@ -28,6 +28,7 @@
 
 #include "engine/dictionary_store.h"
 #include "engine/host.h"
+#include "engine/pair_repairs.h"
 #include "engine/progress_guard.h"
 #include "engine/var.h"
 #include "text/font_text.h"
@@ -151,9 +152,14 @@ public:
         const char* at = SourceText.data() + (pos - 1);
         return at[0] == literal[0] && std::string_view(at, literal.size()) == literal;
     }
-    // The text at ScanPos + 1 compared with a literal over the literal's length.
-    bool nextIs(std::string_view literal) const { return sourceIs(ScanPos + 1, literal); }
-    bool atIs(std::string_view literal) const { return sourceIs(ScanPos, literal); }
+    // The text at ScanPos + 1 compared with a literal over the literal's length. The scanner asks
+    // dozens of these a character, so the first byte is tested before the call.
+    bool nextIs(std::string_view literal) const { return mayStartAt(ScanPos + 1, literal) && sourceIs(ScanPos + 1, literal); }
+    bool atIs(std::string_view literal) const { return mayStartAt(ScanPos, literal) && sourceIs(ScanPos, literal); }
+    bool mayStartAt(std::int64_t pos, std::string_view literal) const {
+        return literal.empty() ||
+               (pos >= 1 && static_cast<std::uint64_t>(pos) <= SourceText.size() && SourceText[static_cast<std::size_t>(pos - 1)] == literal[0]);
+    }
     bool outputEndsWith(std::string_view s) const { return std::string_view(OutputText).ends_with(s); }
     bool englishToArmenian() const { return Check1 == 0; }
 
@@ -271,6 +277,10 @@ public:
 
 private:
     void openTermsFile();
+    // The TermsFile is made when a run first needs it: at its first unknown word, for the list
+    // of untranslated terms, or when the run hands the window back before it ends.
+    void ensureTermsFile();
+    bool termsFilePending_ = false;  // a run has begun and its TermsFile is not open yet
     void refuseUnknownWordQuestions();
     bool scanTurn();  // one turn of the scanner; false when the scanner must leave
     void wordEndTail(int c);
@@ -284,12 +294,8 @@ private:
     // expression editor rewrites it between runs).
     struct PairList {
         bool loaded = false;
-        std::uintmax_t size = 0;
-        std::filesystem::file_time_type writeTime;
-        std::vector<std::pair<FontText, FontText>> pairs;  // find, replace; empty finds left out
-        // A searcher of each find, made once: it skips along a long text instead of stopping at
-        // every occurrence of the find's first character.
-        std::vector<std::boyer_moore_horspool_searcher<const char*>> searchers;
+        FileStamp stamp;
+        PairRepairs repairs;  // find, replace; empty finds left out
     };
     const PairList* pairList(const std::string& name);
     std::map<std::string, PairList> pairLists_;

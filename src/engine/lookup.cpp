@@ -71,11 +71,11 @@ void Engine::teqst_dblclick() {
     const bool found = first != 0 && (end == 0 || first < end);
     if (found) {
         RecIndex = first;
-        DictRecord.raw = file.read(first);
+        DictRecord.raw.assign(file.view(first));
     } else if (end != 0) {
-        DictRecord.raw = file.read(end);  // the record the walk stopped at
+        DictRecord.raw.assign(file.view(end));  // the record the walk stopped at
     } else if (RangeStart <= file.recordCount()) {
-        DictRecord.raw = file.read(RangeStart + (file.recordCount() - RangeStart) / kEnglishStride * kEnglishStride);
+        DictRecord.raw.assign(file.view(RangeStart + (file.recordCount() - RangeStart) / kEnglishStride * kEnglishStride));
     }
     if (!found) {
         if (CurrentWord.starts_with("get ") || CurrentWord.starts_with("got ")) {

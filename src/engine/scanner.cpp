@@ -103,10 +103,12 @@ void Engine::ankap0_DblClick() {
         progressStep();
         if (!guardTurn(before)) return;
         if (!goOn) {
+            ensureTermsFile();
             state = RunState::Waiting;
             return;
         }
         if (yieldBetweenWords && CurrentWord.empty() && yieldBetweenWords()) {
+            ensureTermsFile();
             state = RunState::Suspended;
             return;
         }
@@ -203,7 +205,11 @@ void Engine::passLongRun() {
 }
 
 void Engine::chkrch() {
-    OutputText = FontText(trimBlanks(OutputText));
+    // Trimmed in place: a copy of the whole result at every closing mark grows with the square
+    // of a long text.
+    const std::size_t last = OutputText.find_last_not_of(' ');
+    OutputText.resize(last == FontText::npos ? 0 : last + 1);
+    OutputText.erase(0, std::min(OutputText.find_first_not_of(' '), OutputText.size()));
     OutputText += static_cast<char>(font::kCloseGuillemet);
     OutputText += ' ';
     QuestionCount.clear();

@@ -1,7 +1,6 @@
 // The end of a run: the sentence state cleared, the result repaired by the pair list and shown,
 // the time it took, the words left untranslated, and the run's resets. Also the dialect repair
 // of the result pane, which works the same way on its own pair list.
-#include <bitset>
 #include <chrono>
 #include <filesystem>
 #include <functional>
@@ -31,109 +30,21 @@ std::string_view pairHalf(std::string_view record, std::size_t start1, std::size
 }
 
 // Every occurrence, left to right; the replacement is not searched again. The text is copied
-// only when the pair occurs in it, and then once, so a long text with many occurrences is not
-// moved for each of them. `findFrom(text, from)` gives the next occurrence at or after `from`.
-// `placed` collects where each replacement starts in the new text.
-template <typename FindFrom>
-void replaceEach(FontText& text, std::size_t findLength, std::string_view with, FindFrom findFrom,
-                 std::vector<std::size_t>* placed = nullptr) {
-    std::size_t pos = findFrom(text, 0);
+// only when the pair occurs in it, and then once.
+void replaceAll(FontText& text, std::string_view find, std::string_view with) {
+    if (find.empty()) return;
+    std::size_t pos = text.find(find);
     if (pos == FontText::npos) return;
     FontText out;
     out.reserve(text.size());
     std::size_t from = 0;
-    for (; pos != FontText::npos; pos = findFrom(text, from)) {
+    for (; pos != FontText::npos; pos = text.find(find, from)) {
         out.append(text, from, pos - from);
-        if (placed) placed->push_back(out.size());
         out += with;
-        from = pos + findLength;
+        from = pos + find.size();
     }
     out.append(text, from, FontText::npos);
     text = std::move(out);
-}
-
-// The runs of two and of three characters a text holds. While the text is repaired the sets only
-// grow, so they always hold every run of the text: a find with a run they lack cannot occur, and
-// its search is skipped.
-class RunFilter {
-public:
-    explicit RunFilter(std::string_view text) : pairs_(kPairRuns), triples_(kTripleRuns) { add(text); }
-
-    void add(std::string_view text) {
-        for (std::size_t i = 0; i + 1 < text.size(); ++i) {
-            pairs_[pairIndex(text, i)] = true;
-            if (i + 2 < text.size()) triples_[tripleIndex(text, i)] = true;
-        }
-    }
-
-    // Adds the runs the replacements at `placed` may have made: those that overlap a replacement
-    // or cross either of its edges.
-    void addAround(std::string_view text, const std::vector<std::size_t>& placed, std::size_t withLength) {
-        for (const std::size_t at : placed) {
-            const std::size_t from = at >= 2 ? at - 2 : 0;
-            add(text.substr(from, at - from + withLength + 2));
-        }
-    }
-
-    bool mayHold(std::string_view find) const {
-        if (find.size() == 2) return pairs_[pairIndex(find, 0)];
-        for (std::size_t i = 0; i + 2 < find.size(); ++i)
-            if (!triples_[tripleIndex(find, i)]) return false;
-        return true;
-    }
-
-private:
-    static constexpr std::size_t kPairRuns = std::size_t{1} << 16;    // every two bytes
-    static constexpr std::size_t kTripleRuns = std::size_t{1} << 24;  // every three bytes
-    static std::size_t byteAt(std::string_view s, std::size_t i) { return static_cast<unsigned char>(s[i]); }
-    static std::size_t pairIndex(std::string_view s, std::size_t i) { return byteAt(s, i) << 8 | byteAt(s, i + 1); }
-    static std::size_t tripleIndex(std::string_view s, std::size_t i) {
-        return byteAt(s, i) << 16 | byteAt(s, i + 1) << 8 | byteAt(s, i + 2);
-    }
-
-    std::vector<bool> pairs_;
-    std::vector<bool> triples_;
-};
-
-// Below this length a text is filtered by its characters alone: making the runs costs more.
-constexpr std::size_t kFilteredTextLength = 16 * 1024;
-
-// The characters a short text holds, grown by those of each replacement: a find with a character
-// the set lacks cannot occur in the text.
-class CharFilter {
-public:
-    explicit CharFilter(std::string_view text) { add(text); }
-    void add(std::string_view text) {
-        for (const char ch : text) seen_.set(static_cast<unsigned char>(ch));
-    }
-    bool mayHold(std::string_view find) const {
-        for (const char ch : find)
-            if (!seen_.test(static_cast<unsigned char>(ch))) return false;
-        return true;
-    }
-
-private:
-    std::bitset<256> seen_;  // one bit per byte value
-};
-
-void replaceAll(FontText& text, std::string_view find, std::string_view with) {
-    if (find.empty()) return;
-    replaceEach(text, find.size(), with,
-                [find](const FontText& t, std::size_t from) { return t.find(find, from); });
-}
-
-void replaceAll(FontText& text, std::string_view find, std::string_view with,
-                const std::boyer_moore_horspool_searcher<const char*>& searcher,
-                std::vector<std::size_t>* placed = nullptr) {
-    if (find.empty()) return;
-    replaceEach(
-        text, find.size(), with,
-        [&searcher](const FontText& t, std::size_t from) {
-            const char* end = t.data() + t.size();
-            const char* at = searcher(t.data() + from, end).first;
-            return at == end ? FontText::npos : static_cast<std::size_t>(at - t.data());
-        },
-        placed);
 }
 
 }  // namespace
@@ -141,57 +52,34 @@ void replaceAll(FontText& text, std::string_view find, std::string_view with,
 const Engine::PairList* Engine::pairList(const std::string& name) {
     const std::filesystem::path path = dataFolder / name;
     PairList& list = pairLists_[path.string()];
-    const auto stamp = [&path](std::uintmax_t& size, std::filesystem::file_time_type& time) {
-        std::error_code ec;
-        size = std::filesystem::file_size(path, ec);
-        if (!ec) time = std::filesystem::last_write_time(path, ec);
-        return !ec;
-    };
-    std::uintmax_t size = 0;
-    std::filesystem::file_time_type time;
-    if (list.loaded && stamp(size, time) && size == list.size && time == list.writeTime) return &list;
+    if (list.loaded && FileStamp::of(path) == list.stamp) return &list;
 
     list = PairList();
     RecordFile pairs;
     if (!pairs.open(path, kPairRecordWidth)) return nullptr;
     // The list is read to its last record but one.
     const std::int64_t count = static_cast<std::int64_t>(pairs.byteLength() / kPairRecordWidth) - 1;
+    std::vector<std::pair<std::string, std::string>> found;
     for (std::int64_t n = 1; n <= count; ++n) {
-        const std::string record = pairs.read(n);
+        const std::string_view record = pairs.view(n);
         const std::string_view find = pairHalf(record, 1, kPairRecordWidth / 2);
         if (find.empty()) continue;
-        list.pairs.emplace_back(find, pairHalf(record, kPairRecordWidth / 2 + 1, kPairRecordWidth / 2));
+        found.emplace_back(find, pairHalf(record, kPairRecordWidth / 2 + 1, kPairRecordWidth / 2));
     }
-    for (const auto& [find, with] : list.pairs) list.searchers.emplace_back(find.data(), find.data() + find.size());
+    list.repairs = PairRepairs(std::move(found));
     // A time stamp has a coarse tick: a list written just before it was read could be written again
     // under the same stamp and size, so such a list is read again until its stamp has settled.
-    const bool stamped = stamp(list.size, list.writeTime);
-    list.loaded = stamped && std::filesystem::file_time_type::clock::now() - list.writeTime > kStampSettle;
+    const std::optional<FileStamp> stamp = FileStamp::of(path);
+    if (stamp) list.stamp = *stamp;
+    const auto now = std::chrono::duration_cast<std::chrono::nanoseconds>(
+                         std::chrono::system_clock::now().time_since_epoch()).count();
+    list.loaded = stamp && now - list.stamp.modifiedNs > std::chrono::nanoseconds(kStampSettle).count();
     return &list;
 }
 
 void Engine::poqr_uxxumner1() {
     const PairList* list = pairList(std::string("uxxum") + (Check1 == 0 ? "a" : "e"));
-    if (list == nullptr) return;
-    if (OutputText.size() < kFilteredTextLength) {
-        CharFilter chars(OutputText);
-        for (std::size_t i = 0; i < list->pairs.size(); ++i) {
-            const auto& [find, with] = list->pairs[i];
-            if (!chars.mayHold(find)) continue;
-            replaceAll(OutputText, find, with, list->searchers[i]);
-            chars.add(with);
-        }
-        return;
-    }
-    RunFilter filter(OutputText);
-    std::vector<std::size_t> placed;
-    for (std::size_t i = 0; i < list->pairs.size(); ++i) {
-        const auto& [find, with] = list->pairs[i];
-        if (!filter.mayHold(find)) continue;
-        placed.clear();
-        replaceAll(OutputText, find, with, list->searchers[i], &placed);
-        filter.addAround(OutputText, placed, with.size());
-    }
+    if (list != nullptr) list->repairs.apply(OutputText);
 }
 
 void Engine::CTYD() {
@@ -215,7 +103,8 @@ void Engine::TransEndProcedure() {
     resetSentence();
     if (SpellMode != 1) {
         host.setResultText(OutputText);
-        SourceText.clear();
+        // The source's memory goes back before the repair makes its copy of a long result.
+        FontText().swap(SourceText);
         poqr_uxxumner1();
         host.setResultText(OutputText);
         if (host.progressShown() && !checked(MenuItem::Chat)) host.showProgress(false);
@@ -232,6 +121,7 @@ void Engine::TransEndProcedure() {
                            FontText("Թարգմանությունը տևեց "_ft) + minutes + FontText(" րոպե և "_ft) + seconds +
                                FontText(" վայրկյան:"_ft)});
         }
+        if (checked(MenuItem::SUT)) ensureTermsFile();
         if (checked(MenuItem::SUT) && TermsFile.isOpen() && TermsFile.recordCount() > 0) {
             FontText list;
             for (std::int64_t n = 1; n <= TermsFile.recordCount(); ++n) {
@@ -252,6 +142,7 @@ void Engine::TransEndProcedure() {
         host.setResultText(SourceText);
     }
     TermsFile = RecordFile();
+    termsFilePending_ = false;
     std::error_code ignored;
     std::filesystem::remove(dataFolder / kTermsFileName, ignored);
     host.setBusy(false);

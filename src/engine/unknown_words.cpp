@@ -181,6 +181,7 @@ bool Engine::retryUnknownWord() {
 }
 
 void Engine::reportUnknownWord() {
+    ensureTermsFile();
     // An unknown word stands in the text, and in the questions, with the case it was typed in:
     // a name keeps its capital.
     RawWord = typedSpelling(SourceText, ScanPos, RawWord);

@@ -193,6 +193,29 @@ TEST(EngineRun, TermsFileExistsDuringTheRunAndIsDeletedAtTheEnd) {
     EXPECT_FALSE(std::filesystem::exists(f.data() / "zhamanakavor"));
 }
 
+TEST(EngineRun, TermsFileExistsWhileARunIsSuspendedAndIsDeletedWhenItEnds) {
+    EngineFixture f(kSmallLexicon);
+    f.engine->yieldBetweenWords = [] { return true; };
+    f.translate("big house");
+    ASSERT_EQ(f.engine->state, RunState::Suspended);
+    EXPECT_TRUE(std::filesystem::exists(f.data() / "zhamanakavor"));
+    f.engine->yieldBetweenWords = nullptr;
+    f.engine->ankap0_DblClick();
+    EXPECT_EQ(f.engine->state, RunState::Idle);
+    EXPECT_FALSE(std::filesystem::exists(f.data() / "zhamanakavor"));
+}
+
+TEST(EngineRun, TermsFileListsTheUnknownWordsOfEachRunAlone) {
+    EngineFixture f(kSmallLexicon);
+    f.host.setChecked(MenuItem::ITR, true);
+    f.host.setChecked(MenuItem::SUT, true);
+    EXPECT_NE(f.translate("zorb big").find("zorb"), std::string::npos);
+    EXPECT_NE(f.host.result.find("LIST OF NON-TRANSLATED TERMS\r\nzorb"), std::string::npos);
+    f.host.setChecked(MenuItem::SUT, true);
+    f.translate("quux zorb");
+    EXPECT_NE(f.host.result.find("LIST OF NON-TRANSLATED TERMS\r\nquux, zorb"), std::string::npos);
+}
+
 TEST(EngineRun, ResetSentenceClearsTheSentenceState) {
     EngineFixture f(kSmallLexicon);
     Engine& e = *f.engine;

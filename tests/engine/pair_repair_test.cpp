@@ -3,11 +3,13 @@
 
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "emission_fixture.h"
+#include "engine/pair_repairs.h"
 
 namespace vorlexa::test {
 namespace {
@@ -73,6 +75,69 @@ TEST(PairRepair, APairListRewrittenBetweenRunsIsReadAgain) {
     e.OutputText = "old old";
     e.poqr_uxxumner1();
     EXPECT_EQ(e.OutputText, "old old");
+}
+
+using Pairs = std::vector<std::pair<std::string, std::string>>;
+
+// The repair as its definition reads: one search of the whole text per pair, in order.
+std::string repairedPairByPair(std::string text, const std::vector<std::pair<std::string, std::string>>& pairs) {
+    for (const auto& [find, with] : pairs) {
+        if (find.empty()) continue;
+        for (std::size_t at = text.find(find); at != std::string::npos; at = text.find(find, at + with.size()))
+            text.replace(at, find.size(), with);
+    }
+    return text;
+}
+
+TEST(PairRepairs, AReplacementIsNotSearchedAgainByItsOwnOrAnEarlierPair) {
+    const PairRepairs repairs({{"b", "a"}, {"x", "bb"}, {"aa", "aaa"}});
+    std::string text = "bx aa";
+    repairs.apply(text);
+    EXPECT_EQ(text, "abb aaa");
+}
+
+TEST(PairRepairs, AnEmptyReplacementJoinsTheTextAroundItForLaterPairs) {
+    const PairRepairs repairs({{"c", ""}, {"ab", "Z"}, {"", "never"}});
+    std::string text = "acb\nacb";
+    repairs.apply(text);
+    EXPECT_EQ(text, "Z\nZ");
+}
+
+TEST(PairRepairs, AFindHoldingALineBreakIsFoundAcrossTheLines) {
+    const PairRepairs repairs(Pairs{{"a\nb", "X"}});
+    std::string text = "xa\nby\na\nb";
+    repairs.apply(text);
+    EXPECT_EQ(text, "xXy\nX");
+}
+
+TEST(PairRepairs, ATextNoFindOccursInIsLeftAsItIs) {
+    const PairRepairs repairs(Pairs{{"zz", "y"}});
+    std::string text = "abc\r\nzy\r\n";
+    repairs.apply(text);
+    EXPECT_EQ(text, "abc\r\nzy\r\n");
+}
+
+TEST(PairRepairs, EveryTextComesOutAsPairByPairSearchesMakeIt) {
+    // Short finds over a few letters overlap, make and unmake one another; a line break and a
+    // sign that no pair holds cut the text into pieces.
+    const std::string letters = "ab \n.";
+    std::mt19937 rng(7);
+    const auto word = [&](std::size_t most, std::size_t alphabet) {
+        std::string w;
+        for (std::size_t n = rng() % most + 1; n > 0; --n) w += letters[rng() % alphabet];
+        return w;
+    };
+    for (int round = 0; round < 300; ++round) {
+        std::vector<std::pair<std::string, std::string>> pairs;
+        for (int i = static_cast<int>(rng() % 6) + 1; i > 0; --i) {
+            std::string with = rng() % 4 == 0 ? std::string() : word(4, 3);
+            pairs.emplace_back(word(3, round % 2 == 0 ? 3 : 4), std::move(with));
+        }
+        const std::string text = word(60, letters.size());
+        std::string repaired = text;
+        PairRepairs(pairs).apply(repaired);
+        ASSERT_EQ(repaired, repairedPairByPair(text, pairs)) << "round " << round << ": " << text;
+    }
 }
 
 }  // namespace

@@ -1,0 +1,185 @@
+#include "engine/pair_repairs.h"
+
+#include <algorithm>
+#include <bit>
+#include <limits>
+
+namespace vorlexa {
+
+namespace {
+
+constexpr std::uint32_t kNoState = std::numeric_limits<std::uint32_t>::max();  // no trie edge yet
+constexpr std::size_t kBitsPerWord = 64;
+
+// The first set bit at or after `from`, or the bit count when there is none.
+std::size_t nextSet(const std::vector<std::uint64_t>& bits, std::size_t from) {
+    std::size_t w = from / kBitsPerWord;
+    if (w >= bits.size()) return bits.size() * kBitsPerWord;
+    std::uint64_t word = bits[w] & (~std::uint64_t{0} << (from % kBitsPerWord));
+    while (word == 0) {
+        if (++w == bits.size()) return bits.size() * kBitsPerWord;
+        word = bits[w];
+    }
+    return w * kBitsPerWord + static_cast<std::size_t>(std::countr_zero(word));
+}
+
+}  // namespace
+
+PairRepairs::PairRepairs(std::vector<std::pair<std::string, std::string>> pairs) {
+    bool used[256] = {};
+    for (auto& pair : pairs) {
+        if (pair.first.empty()) continue;
+        for (const char ch : pair.first) used[static_cast<unsigned char>(ch)] = true;
+        for (const char ch : pair.second) used[static_cast<unsigned char>(ch)] = true;
+        longestFind_ = std::max(longestFind_, pair.first.size());
+        pairs_.push_back(std::move(pair));
+    }
+    for (std::size_t b = 0; b < 256; ++b) cut_[b] = !used[b];
+    for (const auto& [find, with] : pairs_)
+        for (const char ch : find) {
+            auto& cls = byteClass_[static_cast<unsigned char>(ch)];
+            if (cls == 0) cls = static_cast<std::uint8_t>(++classes_);
+        }
+
+    // The trie of the finds; state 0 is the root.
+    const std::size_t stride = classes_ + 1;
+    next_.assign(stride, kNoState);
+    std::vector<std::vector<std::uint32_t>> endsAt(1);
+    for (std::size_t i = 0; i < pairs_.size(); ++i) {
+        std::size_t s = 0;
+        for (const char ch : pairs_[i].first) {
+            const std::size_t edge = s * stride + byteClass_[static_cast<unsigned char>(ch)];
+            if (next_[edge] == kNoState) {
+                next_[edge] = static_cast<std::uint32_t>(endsAt.size());
+                endsAt.emplace_back();
+                next_.resize(endsAt.size() * stride, kNoState);
+            }
+            s = next_[edge];
+        }
+        endsAt[s].push_back(static_cast<std::uint32_t>(i));
+    }
+
+    // Breadth first: each state's missing edges are those of its longest proper suffix state.
+    const std::size_t states = endsAt.size();
+    std::vector<std::uint32_t> suffix(states, 0);
+    outputLink_.assign(states, 0);
+    std::vector<std::uint32_t> queue;
+    queue.reserve(states);
+    for (std::size_t c = 0; c < stride; ++c) {
+        std::uint32_t& child = next_[c];
+        if (child == kNoState) child = 0;
+        else queue.push_back(child);
+    }
+    for (std::size_t head = 0; head < queue.size(); ++head) {
+        const std::uint32_t s = queue[head];
+        for (std::size_t c = 0; c < stride; ++c) {
+            std::uint32_t& child = next_[s * stride + c];
+            const std::uint32_t viaSuffix = next_[suffix[s] * stride + c];
+            if (child == kNoState) {
+                child = viaSuffix;
+                continue;
+            }
+            suffix[child] = viaSuffix;
+            outputLink_[child] = endsAt[viaSuffix].empty() ? outputLink_[viaSuffix] : viaSuffix;
+            queue.push_back(child);
+        }
+    }
+    endsFrom_.reserve(states + 1);
+    for (const auto& ends : endsAt) {
+        endsFrom_.push_back(static_cast<std::uint32_t>(ends_.size()));
+        ends_.insert(ends_.end(), ends.begin(), ends.end());
+    }
+    endsFrom_.push_back(static_cast<std::uint32_t>(ends_.size()));
+}
+
+void PairRepairs::markOccurrences(std::string_view text, std::size_t from, std::size_t to,
+                                  std::vector<std::uint64_t>& occurs) const {
+    const std::size_t stride = classes_ + 1;
+    std::uint32_t s = 0;
+    for (std::size_t j = from; j < to; ++j) {
+        s = next_[s * stride + byteClass_[static_cast<unsigned char>(text[j])]];
+        for (std::uint32_t t = endsFrom_[s] != endsFrom_[s + 1] ? s : outputLink_[s]; t != 0; t = outputLink_[t])
+            for (std::uint32_t e = endsFrom_[t]; e < endsFrom_[t + 1]; ++e)
+                occurs[ends_[e] / kBitsPerWord] |= std::uint64_t{1} << (ends_[e] % kBitsPerWord);
+    }
+}
+
+bool PairRepairs::applyToPiece(std::string& piece, std::vector<std::uint64_t>& occurs) const {
+    bool changed = false;
+    std::string out;
+    std::vector<std::size_t> placed;
+    const std::size_t count = pairs_.size();
+    for (std::size_t i = nextSet(occurs, 0); i < count; i = nextSet(occurs, i + 1)) {
+        const auto& [find, with] = pairs_[i];
+        std::size_t pos = piece.find(find);
+        if (pos == std::string::npos) continue;  // it occurred before a pair above removed it
+        out.clear();
+        out.reserve(piece.size());
+        placed.clear();
+        std::size_t from = 0;
+        for (; pos != std::string::npos; pos = piece.find(find, from)) {
+            out.append(piece, from, pos - from);
+            placed.push_back(out.size());
+            out += with;
+            from = pos + find.size();
+        }
+        out.append(piece, from, std::string::npos);
+        piece.swap(out);
+        changed = true;
+
+        // A find that occurs now and did not before overlaps a replacement or its join.
+        const std::size_t reach = longestFind_ - 1;
+        std::size_t windowFrom = 0;
+        std::size_t windowTo = 0;
+        for (const std::size_t at : placed) {
+            const std::size_t lo = at > reach ? at - reach : 0;
+            const std::size_t hi = std::min(piece.size(), at + with.size() + reach);
+            if (windowTo > windowFrom && lo <= windowTo) {
+                windowTo = std::max(windowTo, hi);
+                continue;
+            }
+            if (windowTo > windowFrom) markOccurrences(piece, windowFrom, windowTo, occurs);
+            windowFrom = lo;
+            windowTo = hi;
+        }
+        if (windowTo > windowFrom) markOccurrences(piece, windowFrom, windowTo, occurs);
+    }
+    return changed;
+}
+
+void PairRepairs::apply(std::string& text) const {
+    if (pairs_.empty() || text.empty()) return;
+    std::vector<std::uint64_t> occurs((pairs_.size() + kBitsPerWord - 1) / kBitsPerWord);
+    std::vector<std::uint64_t> none(occurs.size());
+    std::string out;  // made at the first change; until then the text stands as it is
+    bool changed = false;
+    std::string piece;
+    std::size_t start = 0;
+    while (true) {
+        std::size_t end = start;
+        while (end < text.size() && !cut_[static_cast<unsigned char>(text[end])]) ++end;
+        if (end > start) {
+            // Most pieces hold no find: they are scanned in place and never copied.
+            std::fill(occurs.begin(), occurs.end(), 0);
+            markOccurrences(text, start, end, occurs);
+            bool repaired = false;
+            if (occurs != none) {
+                piece.assign(text, start, end - start);
+                repaired = applyToPiece(piece, occurs);
+            }
+            if (repaired && !changed) {
+                out.reserve(text.size() + text.size() / 8);
+                out.append(text, 0, start);
+                changed = true;
+            }
+            if (repaired) out += piece;
+            else if (changed) out.append(text, start, end - start);
+        }
+        if (end == text.size()) break;
+        if (changed) out += text[end];
+        start = end + 1;
+    }
+    if (changed) text.swap(out);
+}
+
+}  // namespace vorlexa
