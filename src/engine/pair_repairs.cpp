@@ -10,6 +10,11 @@ namespace {
 
 constexpr std::uint32_t kNoState = std::numeric_limits<std::uint32_t>::max();  // no trie edge yet
 constexpr std::size_t kBitsPerWord = 64;
+// A list whose pairs would make a piece of text more than this many times longer (plus the slack,
+// for short pieces) is broken: the shipped lists lengthen a text by a few letters. The pairs from
+// there on are left out rather than grow the text without end, each a multiple of the last.
+constexpr std::size_t kMostGrowth = 64;
+constexpr std::size_t kGrowthSlack = 4096;
 
 // The first set bit at or after `from`, or the bit count when there is none.
 std::size_t nextSet(const std::vector<std::uint64_t>& bits, std::size_t from) {
@@ -109,6 +114,7 @@ bool PairRepairs::applyToPiece(std::string& piece, std::vector<std::uint64_t>& o
     std::string out;
     std::vector<std::size_t> placed;
     const std::size_t count = pairs_.size();
+    const std::size_t most = piece.size() * kMostGrowth + kGrowthSlack;
     for (std::size_t i = nextSet(occurs, 0); i < count; i = nextSet(occurs, i + 1)) {
         const auto& [find, with] = pairs_[i];
         std::size_t pos = piece.find(find);
@@ -124,6 +130,7 @@ bool PairRepairs::applyToPiece(std::string& piece, std::vector<std::uint64_t>& o
             from = pos + find.size();
         }
         out.append(piece, from, std::string::npos);
+        if (out.size() > most) break;
         piece.swap(out);
         changed = true;
 

@@ -6,7 +6,8 @@
 // over all the finds tells which pairs occur at all, and after a replacement only the text around
 // it is scanned again, because a new occurrence must overlap what was written. The text is taken
 // in pieces cut at the bytes no find and no replacement holds: such a byte is never matched, made
-// or removed, so no occurrence ever crosses it, and each piece is repaired on its own.
+// or removed, so no occurrence ever crosses it, and each piece is repaired on its own. A broken
+// list that would make a piece many times longer stops at the pair that would pass the limit.
 #pragma once
 
 #include <cstdint>

@@ -117,6 +117,16 @@ TEST(PairRepairs, ATextNoFindOccursInIsLeftAsItIs) {
     EXPECT_EQ(text, "abc\r\nzy\r\n");
 }
 
+// Thirty pairs that each double the text would make one letter a thousand million; the growth
+// stops at 64 times the text plus 4096 letters: twelve doublings give 4096 letters, and the
+// thirteenth, which would give 8192, is left out with all the pairs after it.
+TEST(PairRepairs, AListThatDoublesTheTextPairAfterPairStopsAtTheNamedGrowth) {
+    const Pairs doubling(30, {"a", "aa"});
+    std::string text = "a";
+    PairRepairs(doubling).apply(text);
+    EXPECT_EQ(text, std::string(4096, 'a'));
+}
+
 TEST(PairRepairs, EveryTextComesOutAsPairByPairSearchesMakeIt) {
     // Short finds over a few letters overlap, make and unmake one another; a line break and a
     // sign that no pair holds cut the text into pieces.
