@@ -7,6 +7,7 @@
 #include <array>
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <fstream>
 #include <system_error>
 
@@ -131,84 +132,177 @@ std::optional<FileStamp> FileStamp::of(const std::filesystem::path& path) {
                      static_cast<std::int64_t>(st.st_mtim.tv_sec) * kNsPerSecond + st.st_mtim.tv_nsec};
 }
 
+namespace {
+// The bytes read from a file at a time while it is opened: the file is sifted for its filled
+// records through this buffer, so the blank records of the grid are never held.
+constexpr std::size_t kOpeningChunkRecords = 16384;
+
+bool allBlanks(const char* p, std::size_t n) {
+    constexpr std::uint64_t kEightBlanks = 0x2020202020202020ull;
+    std::size_t i = 0;
+    for (; i + 8 <= n; i += 8) {
+        std::uint64_t word;
+        std::memcpy(&word, p + i, 8);
+        if (word != kEightBlanks) return false;
+    }
+    for (; i < n; ++i)
+        if (p[i] != ' ') return false;
+    return true;
+}
+}  // namespace
+
+void RecordFile::takeRecords(std::string_view bytes) {
+    const auto length = static_cast<std::size_t>(recordLength_);
+    for (std::size_t at = 0; at + length <= bytes.size(); at += length) {
+        const char* record = bytes.data() + at;
+        if (allBlanks(record, length)) {
+            slots_.push_back(0);
+        } else {
+            pool_.append(record, length);
+            slots_.push_back(static_cast<std::uint32_t>(pool_.size() / length));
+        }
+    }
+    length_ += bytes.size() / length * length;
+}
+
+void RecordFile::load(std::string_view bytes) {
+    dropIndex();
+    length_ = 0;
+    slots_.clear();
+    pool_.clear();
+    tail_.clear();
+    const auto whole = bytes.size() / static_cast<std::size_t>(recordLength_) * recordLength_;
+    takeRecords(bytes.substr(0, whole));
+    tail_.assign(bytes.substr(whole));
+    length_ += tail_.size();
+}
+
 bool RecordFile::open(const std::filesystem::path& path, int recordLength) {
     path_ = path;
     recordLength_ = recordLength;
-    bytes_.clear();
+    blank_.assign(static_cast<std::size_t>(recordLength), ' ');
+    load({});
     open_ = false;
     // A missing file is made empty; the run's list of unknown words is made this way each run,
     // so the file is opened once, and read with one call per block.
     Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
     if (file.fd < 0 && errno == ENOENT) file.fd = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
     if (file.fd < 0) return false;
-    dropIndex();
     struct stat st {};
-    if (::fstat(file.fd, &st) == 0 && st.st_size > 0) bytes_.resize(static_cast<std::size_t>(st.st_size));
-    std::size_t got = 0;
-    while (got < bytes_.size()) {
-        const ssize_t n = ::read(file.fd, bytes_.data() + got, bytes_.size() - got);
+    if (::fstat(file.fd, &st) == 0 && st.st_size > 0)
+        slots_.reserve(static_cast<std::size_t>(st.st_size) / static_cast<std::size_t>(recordLength));
+    // A small file is read in one call; a large one through the buffer, whole records at a time.
+    std::string chunk(std::min<std::size_t>(kOpeningChunkRecords * static_cast<std::size_t>(recordLength),
+                                            st.st_size > 0 ? static_cast<std::size_t>(st.st_size) : 0),
+                      ' ');
+    std::size_t filled = 0;
+    for (;;) {
+        const ssize_t n = chunk.empty() ? 0 : ::read(file.fd, chunk.data() + filled, chunk.size() - filled);
         if (n < 0 && errno == EINTR) continue;
+        if (n > 0) filled += static_cast<std::size_t>(n);
+        if (n > 0 && filled < chunk.size()) continue;
+        const std::size_t whole = filled / static_cast<std::size_t>(recordLength) * recordLength;
+        takeRecords(std::string_view(chunk).substr(0, whole));
+        // A read that ends inside a record keeps the rest for the next one.
+        std::memmove(chunk.data(), chunk.data() + whole, filled - whole);
+        filled -= whole;
         if (n <= 0) break;
-        got += static_cast<std::size_t>(n);
     }
-    bytes_.resize(got);
+    tail_.assign(chunk, 0, filled);
+    length_ += tail_.size();
     open_ = true;
     return true;
 }
 
 double RecordFile::recordCountExact() const {
-    return static_cast<double>(bytes_.size()) / recordLength_;
+    return static_cast<double>(length_) / recordLength_;
 }
 
 std::int64_t RecordFile::recordCount() const {
-    return static_cast<std::int64_t>(bytes_.size() / static_cast<std::uint64_t>(recordLength_));
+    return static_cast<std::int64_t>(length_ / static_cast<std::uint64_t>(recordLength_));
 }
 
 std::string RecordFile::read(std::int64_t n) const {
+    if (n >= 1 && n <= recordCount()) return std::string(view(n));
     std::string rec(static_cast<std::size_t>(recordLength_), ' ');
-    if (n < 1) return rec;
-    const std::uint64_t from = static_cast<std::uint64_t>(n - 1) * recordLength_;
-    if (from >= bytes_.size()) return rec;
-    const std::uint64_t len = std::min<std::uint64_t>(recordLength_, bytes_.size() - from);
-    rec.replace(0, len, bytes_, from, len);
+    if (n == recordCount() + 1) rec.replace(0, tail_.size(), tail_);
     return rec;
 }
 
 std::string_view RecordFile::view(std::int64_t n) const {
     if (n < 1 || n > recordCount()) return {};
-    return std::string_view(bytes_).substr(static_cast<std::uint64_t>(n - 1) * recordLength_,
-                                           static_cast<std::size_t>(recordLength_));
+    const std::uint32_t slot = slots_[static_cast<std::size_t>(n - 1)];
+    if (slot == 0) return blank_;
+    return std::string_view(pool_).substr(static_cast<std::size_t>(slot - 1) * recordLength_,
+                                          static_cast<std::size_t>(recordLength_));
+}
+
+void RecordFile::setRecord(std::int64_t n, std::string_view record) {
+    const auto length = static_cast<std::size_t>(recordLength_);
+    std::uint32_t& slot = slots_[static_cast<std::size_t>(n - 1)];
+    if (slot == 0) {
+        if (allBlanks(record.data(), std::min(record.size(), length))) return;  // blank it stays
+        pool_.append(length, ' ');
+        slot = static_cast<std::uint32_t>(pool_.size() / length);
+    }
+    const std::size_t at = static_cast<std::size_t>(slot - 1) * length;
+    const std::size_t len = std::min(record.size(), length);
+    pool_.replace(at, len, record.substr(0, len));
+    std::fill_n(pool_.begin() + static_cast<std::ptrdiff_t>(at + len), length - len, ' ');
+}
+
+std::string RecordFile::bytesOf(std::uint64_t from, std::uint64_t to) const {
+    std::string out;
+    out.reserve(static_cast<std::size_t>(to - from));
+    const auto length = static_cast<std::uint64_t>(recordLength_);
+    const std::uint64_t wholeEnd = length_ - tail_.size();
+    for (std::uint64_t at = from; at < to;) {
+        if (at >= wholeEnd) {
+            out.append(tail_, static_cast<std::size_t>(at - wholeEnd), static_cast<std::size_t>(to - at));
+            break;
+        }
+        const std::uint64_t offset = at % length;
+        const std::uint64_t take = std::min(length - offset, to - at);
+        out.append(view(static_cast<std::int64_t>(at / length) + 1).substr(offset, take));
+        at += take;
+    }
+    return out;
 }
 
 bool RecordFile::write(std::int64_t n, std::string_view record) {
     if (!open_ || n < 1) return false;
-    const std::uint64_t from = static_cast<std::uint64_t>(n - 1) * recordLength_;
-    const std::uint64_t oldSize = bytes_.size();
-    if (bytes_.size() < from + recordLength_) {
-        bytes_.resize(from + recordLength_, ' ');
+    const auto length = static_cast<std::uint64_t>(recordLength_);
+    const std::uint64_t from = static_cast<std::uint64_t>(n - 1) * length;
+    const std::uint64_t oldSize = length_;
+    if (length_ < from + length) {
+        // The records between the old end and this one are blank; a record cut short is
+        // completed with blanks.
+        const std::string cut = tail_ + std::string(length - tail_.size(), ' ');
+        const bool hadTail = !tail_.empty();
+        tail_.clear();
+        slots_.resize(static_cast<std::size_t>(n), 0);
+        length_ = from + length;
+        if (hadTail) setRecord(static_cast<std::int64_t>(oldSize / length) + 1, cut);
         dropIndex();  // new records join every column
     } else if (indexStride_ > 0) {
         columns_[static_cast<std::size_t>((n - 1) % indexStride_)].built = false;
     }
-    const std::size_t len = std::min<std::size_t>(record.size(), static_cast<std::size_t>(recordLength_));
-    bytes_.replace(from, len, record.substr(0, len));
-    std::fill_n(bytes_.begin() + static_cast<std::ptrdiff_t>(from + len), recordLength_ - len, ' ');
+    setRecord(n, record);
     if (!writeThrough_) return true;
-    return flushRange(std::min(oldSize, from), from + recordLength_);
+    return flushRange(std::min(oldSize, from), from + length);
 }
 
 bool RecordFile::replaceAll(std::string_view bytes) {
-    dropIndex();
-    bytes_.assign(bytes);
+    load(bytes);
     std::ofstream out(path_, std::ios::binary | std::ios::trunc);
-    out.write(bytes_.data(), static_cast<std::streamsize>(bytes_.size()));
+    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     out.flush();
     return static_cast<bool>(out);
 }
 
 bool RecordFile::setWriteThrough(bool on) {
     writeThrough_ = on;
-    return on ? replaceAll(std::string(bytes_)) : true;
+    return on ? replaceAll(bytesOf(0, length_)) : true;
 }
 
 void RecordFile::dropIndex() const {
@@ -279,11 +373,12 @@ std::int64_t RecordFile::firstNullInColumn(int stride, int column) const {
 bool RecordFile::flushRange(std::uint64_t from, std::uint64_t to) {
     const Descriptor file(::open(path_.c_str(), O_WRONLY | O_CLOEXEC));
     if (file.fd < 0) return false;
-    while (from < to) {
-        const ssize_t n = ::pwrite(file.fd, bytes_.data() + from, to - from, static_cast<off_t>(from));
+    const std::string bytes = bytesOf(from, to);
+    for (std::size_t done = 0; done < bytes.size();) {
+        const ssize_t n = ::pwrite(file.fd, bytes.data() + done, bytes.size() - done, static_cast<off_t>(from + done));
         if (n < 0 && errno == EINTR) continue;
         if (n <= 0) return false;
-        from += static_cast<std::uint64_t>(n);
+        done += static_cast<std::size_t>(n);
     }
     return true;
 }
@@ -324,6 +419,7 @@ bool writeRealRecords(const RecordFile& from, const std::filesystem::path& to) {
     std::string out;
     const std::int64_t count = from.recordCount();
     for (std::int64_t rec = 1; rec <= count; ++rec) {
+        if (from.knownBlank(rec)) continue;
         const std::string_view r = from.view(rec);
         if (carriesGloss(r)) out += r;
     }

@@ -81,8 +81,10 @@ struct FileStamp {
     static std::optional<FileStamp> of(const std::filesystem::path& path);
 };
 
-// A random-access file of fixed-length records. The records are kept in memory in file order;
-// every write goes through to disk before the call returns.
+// A random-access file of fixed-length records. Every write goes through to disk before the call
+// returns. In memory only the records that hold more than blanks are kept: a dictionary's hash
+// grid is mostly blank records (its columns are as deep as the fullest one), so holding the file
+// whole would cost ten times the memory its words need.
 class RecordFile {
 public:
     RecordFile() = default;
@@ -101,13 +103,16 @@ public:
     double recordCountExact() const;
     // The last whole record number.
     std::int64_t recordCount() const;
-    std::uint64_t byteLength() const { return bytes_.size(); }
+    std::uint64_t byteLength() const { return length_; }
 
     // Record n (1-based), blank-padded past the end of the file.
     std::string read(std::int64_t n) const;
     // Record n (1-based) in place, without a copy; empty past the last whole record. Valid until
     // the next write.
     std::string_view view(std::int64_t n) const;
+    // True when whole record n is known to hold blanks only (false tells nothing). Such a record
+    // is no word and no column's end, so a walk over every record may skip it.
+    bool knownBlank(std::int64_t n) const { return slots_[static_cast<std::size_t>(n - 1)] == 0; }
     // Writes record n, growing the file with blank records as needed. False on a disk error.
     bool write(std::int64_t n, std::string_view record);
     // Replaces the whole file by these bytes.
@@ -126,6 +131,14 @@ public:
 
 private:
     bool flushRange(std::uint64_t from, std::uint64_t to);
+    // Bytes [from, to) of the file as it stands in memory.
+    std::string bytesOf(std::uint64_t from, std::uint64_t to) const;
+    // Takes whole records of the file in order, from `bytes` (a multiple of the record length).
+    void takeRecords(std::string_view bytes);
+    // Replaces the file's contents in memory by `bytes`.
+    void load(std::string_view bytes);
+    // Sets whole record n, within the file, to this record.
+    void setRecord(std::int64_t n, std::string_view record);
 
     // The first record of each key of a column, in open addressing: a slot holds the key's hash
     // and its record, whose key in the file is the one compared. Record 0 marks an empty slot.
@@ -144,7 +157,11 @@ private:
 
     std::filesystem::path path_;
     int recordLength_ = kRecordLength;
-    std::string bytes_;
+    std::uint64_t length_ = 0;          // the file's length in bytes
+    std::vector<std::uint32_t> slots_;  // per whole record: 0 when blank, else 1 + its place in pool_
+    std::string pool_;                  // the records that hold more than blanks, in order of arrival
+    std::string tail_;                  // the bytes of a last record cut short
+    std::string blank_;                 // one record of blanks, the view of every blank record
     bool open_ = false;
     bool writeThrough_ = true;
     mutable int indexStride_ = 0;

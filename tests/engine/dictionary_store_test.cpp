@@ -290,3 +290,99 @@ TEST(StoreFiles, RandomBytesNeverCrashOrHang) {
     EXPECT_NO_THROW(insertWordPair(store, Direction::EnglishToArmenian, "house", "տուն"_ft, "n"));
     EXPECT_TRUE(store.CreateDicStrings());
 }
+
+// The store holds only the records that are not blank; what it reads and what it writes to disk
+// must still be the file byte for byte.
+TEST(StoreFiles, RecordsReadAndFileWrittenAgreeWithThePlainBytesAfterRandomWrites) {
+    test::TempFolder dir;
+    constexpr int kLength = 45;
+    std::mt19937 rng(11);
+    // A grid of blanks with a few words, ending in a record cut short.
+    std::string model;
+    for (int i = 0; i < 300; ++i)
+        model += i % 17 == 3 ? DictRecord::make("w" + std::to_string(i), "x", "n").raw : std::string(kLength, ' ');
+    model += "cut";
+    dir.write("grid", model);
+    RecordFile file;
+    ASSERT_TRUE(file.open(dir.path() / "grid", kLength));
+    auto agrees = [&](const std::string& step) {
+        ASSERT_EQ(file.byteLength(), model.size()) << step;
+        ASSERT_EQ(dir.read("grid"), model) << step;
+        const auto whole = static_cast<std::int64_t>(model.size() / kLength);
+        ASSERT_EQ(file.recordCount(), whole) << step;
+        for (std::int64_t n = 1; n <= whole + 2; ++n) {
+            std::string expected(kLength, ' ');
+            const auto from = static_cast<std::size_t>(n - 1) * kLength;
+            if (from < model.size()) {
+                const auto there = std::min<std::size_t>(kLength, model.size() - from);
+                expected.replace(0, there, model, from, there);
+            }
+            ASSERT_EQ(file.read(n), expected) << step << ", record " << n;
+            if (n <= whole) {
+                ASSERT_EQ(file.view(n), expected) << step << ", record " << n;
+            }
+        }
+    };
+    agrees("opened");
+    for (int step = 0; step < 200; ++step) {
+        const auto count = static_cast<std::int64_t>(model.size() / kLength);
+        const std::int64_t n = 1 + static_cast<std::int64_t>(rng() % static_cast<unsigned>(count + 4));
+        std::string record;
+        switch (rng() % 3) {
+            case 0: record = std::string(kLength, ' '); break;                    // blanked
+            case 1: record = "k" + std::to_string(step); break;                   // short, padded
+            default: record = DictRecord::make("z" + std::to_string(step), "y", "v").raw;
+        }
+        ASSERT_TRUE(file.write(n, record));
+        const auto from = static_cast<std::size_t>(n - 1) * kLength;
+        if (model.size() < from + kLength) model.resize(from + kLength, ' ');
+        std::string padded = record.substr(0, kLength);
+        padded.resize(kLength, ' ');
+        model.replace(from, kLength, padded);
+        agrees("write " + std::to_string(step) + " at " + std::to_string(n));
+    }
+    RecordFile reopened;
+    ASSERT_TRUE(reopened.open(dir.path() / "grid", kLength));
+    for (std::int64_t n = 1; n <= reopened.recordCount(); ++n) EXPECT_EQ(reopened.view(n), file.view(n));
+}
+
+TEST(StoreFiles, WritesHeldBackForABulkBuildReachTheFileWhole) {
+    test::TempFolder dir;
+    RecordFile file;
+    ASSERT_TRUE(file.open(dir.path() / "grid", kRecordLength));
+    ASSERT_TRUE(file.setWriteThrough(false));
+    ASSERT_TRUE(file.write(3, DictRecord::make("house", "x", "n").raw));
+    ASSERT_TRUE(file.write(1, DictRecord::null().raw));
+    EXPECT_EQ(dir.read("grid"), "");  // nothing written yet
+    ASSERT_TRUE(file.setWriteThrough(true));
+    EXPECT_EQ(dir.read("grid"),
+              DictRecord::null().raw + std::string(kRecordLength, ' ') + DictRecord::make("house", "x", "n").raw);
+}
+
+TEST(StoreFiles, ABlankRecordIsKnownBlankAndAFilledOneIsNot) {
+    test::TempFolder dir;
+    dir.write("grid", std::string(kRecordLength, ' ') + DictRecord::null().raw);
+    RecordFile file;
+    ASSERT_TRUE(file.open(dir.path() / "grid", kRecordLength));
+    EXPECT_TRUE(file.knownBlank(1));
+    EXPECT_FALSE(file.knownBlank(2));
+    ASSERT_TRUE(file.write(1, DictRecord::make("house", "x", "n").raw));
+    EXPECT_FALSE(file.knownBlank(1));
+}
+
+TEST(StoreFiles, AGridLargerThanOneReadIsHeldWholeWithItsRecordCutShort) {
+    test::TempFolder dir;
+    std::string bytes;
+    constexpr int kRecords = 50'000;  // several reads of the opening buffer
+    for (int i = 0; i < kRecords; ++i)
+        bytes += i % 97 == 0 ? DictRecord::make("w" + std::to_string(i), "x", "n").raw : std::string(kRecordLength, ' ');
+    bytes += "nul";
+    dir.write("grid", bytes);
+    RecordFile file;
+    ASSERT_TRUE(file.open(dir.path() / "grid", kRecordLength));
+    ASSERT_EQ(file.byteLength(), bytes.size());
+    ASSERT_EQ(file.recordCount(), kRecords);
+    for (std::int64_t n = 1; n <= kRecords; ++n)
+        ASSERT_EQ(file.view(n), std::string_view(bytes).substr(static_cast<std::size_t>(n - 1) * kRecordLength, kRecordLength));
+    EXPECT_EQ(file.read(kRecords + 1), "nul" + std::string(kRecordLength - 3, ' '));
+}
