@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstring>
 #include <limits>
 
 namespace vorlexa {
@@ -154,39 +155,98 @@ bool PairRepairs::applyToPiece(std::string& piece, std::vector<std::uint64_t>& o
     return changed;
 }
 
+namespace {
+// Writes the repaired text back over the text itself, behind the point read so far, so that a
+// long result is never held twice. What does not fit yet (a piece the repair made longer) waits
+// in `carry_`, in order, until reading frees room or the text ends.
+class WriteBehind {
+public:
+    explicit WriteBehind(std::string& text) : text_(text) {}
+
+    // The text up to `end` is read, and its bytes from `start` go to the result as they are.
+    void keep(std::size_t start, std::size_t end) {
+        if (carry_.size() == carryHead_) {
+            if (written_ != start) std::memmove(text_.data() + written_, text_.data() + start, end - start);
+            written_ += end - start;
+            read_ = end;
+            return;
+        }
+        carry_.append(text_, start, end - start);
+        read_ = end;
+        flush();
+    }
+
+    // The text up to `end` is read, and `bytes` go to the result in its place.
+    void put(std::size_t end, std::string_view bytes) {
+        read_ = end;
+        if (carry_.size() == carryHead_ && written_ + bytes.size() <= read_) {
+            std::memcpy(text_.data() + written_, bytes.data(), bytes.size());
+            written_ += bytes.size();
+            return;
+        }
+        carry_.append(bytes);
+        flush();
+    }
+
+    void finish() {
+        text_.resize(written_);
+        text_.append(carry_, carryHead_, std::string::npos);
+    }
+
+private:
+    void flush() {
+        const std::size_t n = std::min(carry_.size() - carryHead_, read_ - written_);
+        std::memcpy(text_.data() + written_, carry_.data() + carryHead_, n);
+        written_ += n;
+        carryHead_ += n;
+        if (carryHead_ == carry_.size()) {
+            carry_.clear();
+            carryHead_ = 0;
+        } else if (carryHead_ > carry_.size() / 2) {
+            carry_.erase(0, carryHead_);  // what was written leaves the queue, at most once per half
+            carryHead_ = 0;
+        }
+    }
+
+    std::string& text_;
+    std::size_t written_ = 0;  // the result so far is text_[0, written_) and then carry_
+    std::size_t read_ = 0;     // text_[read_, end) is not read yet
+    std::string carry_;
+    std::size_t carryHead_ = 0;
+};
+}  // namespace
+
 void PairRepairs::apply(std::string& text) const {
     if (pairs_.empty() || text.empty()) return;
     std::vector<std::uint64_t> occurs((pairs_.size() + kBitsPerWord - 1) / kBitsPerWord);
     std::vector<std::uint64_t> none(occurs.size());
-    std::string out;  // made at the first change; until then the text stands as it is
-    bool changed = false;
+    WriteBehind result(text);
     std::string piece;
     std::size_t start = 0;
     while (true) {
         std::size_t end = start;
         while (end < text.size() && !cut_[static_cast<unsigned char>(text[end])]) ++end;
+        bool repaired = false;
         if (end > start) {
             // Most pieces hold no find: they are scanned in place and never copied.
             std::fill(occurs.begin(), occurs.end(), 0);
             markOccurrences(text, start, end, occurs);
-            bool repaired = false;
             if (occurs != none) {
                 piece.assign(text, start, end - start);
                 repaired = applyToPiece(piece, occurs);
             }
-            if (repaired && !changed) {
-                out.reserve(text.size() + text.size() / 8);
-                out.append(text, 0, start);
-                changed = true;
-            }
-            if (repaired) out += piece;
-            else if (changed) out.append(text, start, end - start);
+        }
+        const std::size_t next = end == text.size() ? end : end + 1;  // with the cutting byte
+        if (repaired) {
+            result.put(end, piece);
+            result.keep(end, next);
+        } else {
+            result.keep(start, next);
         }
         if (end == text.size()) break;
-        if (changed) out += text[end];
-        start = end + 1;
+        start = next;
     }
-    if (changed) text.swap(out);
+    result.finish();
 }
 
 }  // namespace vorlexa

@@ -102,9 +102,9 @@ void Engine::CTYD() {
 void Engine::TransEndProcedure() {
     resetSentence();
     if (SpellMode != 1) {
-        host.setResultText(OutputText);
-        // The source's memory goes back before the repair makes its copy of a long result.
+        // The source's memory goes back before the window takes its copy of a long result.
         FontText().swap(SourceText);
+        host.setResultText(OutputText);
         poqr_uxxumner1();
         host.setResultText(OutputText);
         if (host.progressShown() && !checked(MenuItem::Chat)) host.showProgress(false);

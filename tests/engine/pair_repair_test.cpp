@@ -150,5 +150,29 @@ TEST(PairRepairs, EveryTextComesOutAsPairByPairSearchesMakeIt) {
     }
 }
 
+// The result is written back over the text behind the point read: pieces made longer wait for
+// room, pieces made shorter leave room, over many lines in any mix.
+TEST(PairRepairs, LongTextsOfLinesMadeLongerAndShorterComeOutAsPairByPairSearchesMakeThem) {
+    std::mt19937 rng(23);
+    const std::vector<Pairs> lists = {
+        {{"a", "xyz"}},                    // every line longer
+        {{"ab", ""}, {"b", "q"}},          // every line shorter
+        {{"a", "bbbb"}, {"bbbbb", "c"}},   // longer, then some shorter again
+        {{"aa", "a"}, {"b", "bbbbbbbb"}},  // shorter and longer in one line
+    };
+    for (std::size_t list = 0; list < lists.size(); ++list) {
+        for (int round = 0; round < 20; ++round) {
+            std::string text;
+            for (int line = static_cast<int>(rng() % 400); line > 0; --line) {
+                for (int n = static_cast<int>(rng() % 30); n > 0; --n) text += "ab c"[rng() % 4];
+                text += "\r\n";
+            }
+            std::string repaired = text;
+            PairRepairs(lists[list]).apply(repaired);
+            ASSERT_EQ(repaired, repairedPairByPair(text, lists[list])) << "list " << list << ", round " << round;
+        }
+    }
+}
+
 }  // namespace
 }  // namespace vorlexa::test
