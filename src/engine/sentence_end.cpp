@@ -8,6 +8,9 @@
 #include <system_error>
 #include <utility>
 #include <vector>
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
 
 #include "engine/engine.h"
 
@@ -20,6 +23,20 @@ namespace {
 constexpr int kPairRecordWidth = 100;    // uxxuma, uxxume: find and replace, 50 characters each
 constexpr int kDialectRecordWidth = 40;  // uxxumy: find and replace, 20 characters each
 constexpr auto kStampSettle = std::chrono::seconds(2);  // well past any file system's time-stamp tick
+// A source this long is handed back to the system at once when the run ends: the allocator keeps
+// freed memory amid its heap, and the window's copy of the result would take as much again.
+constexpr std::size_t kSourceReturnedToTheSystem = 4u << 20;
+
+// Releases the source's memory; a long one's pages go back to the system.
+void releaseSource(FontText& source) {
+    const bool longSource = source.size() >= kSourceReturnedToTheSystem;
+    FontText().swap(source);
+#if defined(__GLIBC__)
+    if (longSource) malloc_trim(0);
+#else
+    (void)longSource;
+#endif
+}
 
 // One half of a pair record: trimmed, then stripped of the marks around it, so that a value may
 // begin or end in a blank. A half too short to hold its marks holds nothing.
@@ -103,7 +120,7 @@ void Engine::TransEndProcedure() {
     resetSentence();
     if (SpellMode != 1) {
         // The source's memory goes back before the window takes its copy of a long result.
-        FontText().swap(SourceText);
+        releaseSource(SourceText);
         host.setResultText(OutputText);
         poqr_uxxumner1();
         host.setResultText(OutputText);
