@@ -3,11 +3,13 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <iomanip>
 #include <iostream>
 #include <memory>
 #include <sstream>
+#include <string_view>
 
 #include "cli/terminal_host.h"
 #include "engine/engine.h"
@@ -31,12 +33,26 @@ struct Input {
     std::string utf8;
 };
 
+// Reads a stream whole; a file's length, when known, is taken as room at once, so that a long
+// text is not copied while it grows.
+std::string readWhole(std::istream& in, std::uintmax_t expected) {
+    constexpr std::size_t kBlock = 1 << 20;  // bytes read at a time
+    std::string bytes;
+    if (expected > 0) bytes.reserve(static_cast<std::size_t>(expected));
+    std::size_t got = 0;
+    while (in) {
+        if (bytes.size() < got + kBlock) bytes.resize(std::max(got + kBlock, bytes.capacity()));
+        in.read(bytes.data() + got, static_cast<std::streamsize>(bytes.size() - got));
+        got += static_cast<std::size_t>(in.gcount());
+    }
+    bytes.resize(got);
+    return bytes;
+}
+
 std::optional<std::vector<Input>> readInputs(const std::vector<std::string>& files) {
     std::vector<Input> inputs;
     if (files.empty()) {
-        std::ostringstream all;
-        all << std::cin.rdbuf();
-        inputs.push_back({"standard input", all.str()});
+        inputs.push_back({"standard input", readWhole(std::cin, 0)});
         return inputs;
     }
     for (const auto& f : files) {
@@ -45,9 +61,9 @@ std::optional<std::vector<Input>> readInputs(const std::vector<std::string>& fil
             printError(f + ": cannot read the file");
             return std::nullopt;
         }
-        std::ostringstream all;
-        all << in.rdbuf();
-        inputs.push_back({f, all.str()});
+        std::error_code unknown;
+        const std::uintmax_t size = std::filesystem::file_size(f, unknown);
+        inputs.push_back({f, readWhole(in, unknown ? 0 : size)});
     }
     return inputs;
 }
@@ -70,16 +86,22 @@ std::optional<FontText> engineText(const Input& input) {
     return text;
 }
 
-// The engine's text back to UTF-8 with the line ends of the system.
-std::string outputText(const FontText& font) {
-    std::string utf8 = toUtf8(font);
-    std::string out;
-    out.reserve(utf8.size());
-    for (std::size_t i = 0; i < utf8.size(); ++i)
-        if (!(utf8[i] == '\r' && i + 1 < utf8.size() && utf8[i + 1] == '\n')) out += utf8[i];
-    return out;
+// Writes the engine's text as UTF-8 with the line ends of the system, a block at a time, so that
+// a long result is not held again whole in another form.
+void writeOutput(std::ostream& out, std::string_view font) {
+    constexpr std::size_t kBlock = 1 << 16;  // font characters converted at a time
+    FontText block;
+    for (std::size_t from = 0, to = 0; from < font.size(); from = to) {
+        to = std::min(font.size(), from + kBlock);
+        // A block never ends inside the escape of a character the font does not hold.
+        for (std::size_t at = to > from + font::kEscapeDigits ? to - font::kEscapeDigits : from; at < to; ++at)
+            if (static_cast<unsigned char>(font[at]) == font::kEscape && at > from && to < font.size()) to = at;
+        block.clear();
+        for (std::size_t i = from; i < to; ++i)
+            if (!(font[i] == '\r' && i + 1 < font.size() && font[i + 1] == '\n')) block += font[i];
+        out << toUtf8(block);
+    }
 }
-
 class Session {
 public:
     Session(const std::filesystem::path& folder, const TranslateArgs& args) : args_(args) {
@@ -98,7 +120,8 @@ public:
     bool anyStopped = false;  // a run was stopped before the end of its text
 
     // One run over the text; the blank the run start added behind the text is taken off again.
-    FontText translate(const FontText& text) {
+    // The result stands until the next run.
+    std::string_view translate(const FontText& text) {
         if (args_.listUnknown) host_->setChecked(MenuItem::SUT, true);
         engine_->Text3_Change(text);
         while (engine_->state == RunState::Waiting) {
@@ -112,8 +135,8 @@ public:
         }
         // A run the scanner's guard stopped has told its reason; the tool then ends in failure.
         if (engine_->stopped) anyStopped = true;
-        FontText result = host_->resultText();
-        if ((text.empty() || text.back() != ' ') && !result.empty() && result.back() == ' ') result.pop_back();
+        std::string_view result = host_->result;
+        if ((text.empty() || text.back() != ' ') && !result.empty() && result.back() == ' ') result.remove_suffix(1);
         return result;
     }
 
@@ -131,14 +154,15 @@ private:
 int translate(const GlobalOptions& options, const TranslateArgs& args) {
     const auto folder = openDataFolder(options);
     if (!folder) return kExitFailure;
-    const auto inputs = readInputs(args.files);
+    auto inputs = readInputs(args.files);
     if (!inputs) return kExitFailure;
     Session session(*folder, args);
-    for (const auto& input : *inputs) {
+    for (auto& input : *inputs) {
         const auto text = engineText(input);
         if (!text) return kExitFailure;
+        std::string().swap(input.utf8);  // the engine's text is all the run needs
         if (!args.lines) {
-            std::cout << outputText(session.translate(*text));
+            writeOutput(std::cout, session.translate(*text));
             continue;
         }
         std::size_t from = 0;
@@ -147,7 +171,8 @@ int translate(const GlobalOptions& options, const TranslateArgs& args) {
             const bool last = end == FontText::npos;
             FontText line = text->substr(from, last ? FontText::npos : end - from);
             if (!line.empty() && line.back() == '\r') line.pop_back();
-            std::cout << outputText(session.translate(line)) << '\n';
+            writeOutput(std::cout, session.translate(line));
+            std::cout << '\n';
             if (last) break;
             from = end + 1;
         }
