@@ -498,16 +498,20 @@ void dnel(Engine& e) {
                 shorter += window[pos++];
             }
         }
-        FontText rewritten;
-        for (std::size_t pos = 0; pos < e.SourceText.size();) {
-            if (!window.empty() && e.SourceText.compare(pos, window.size(), window) == 0) {
-                rewritten += shorter;
-                pos += window.size();
-            } else {
-                rewritten += e.SourceText[pos++];
-            }
+        // Left to right, each copy replaced where it is found and the search going on behind it.
+        // The shorter copy never outruns the reading, so the text is rewritten in place.
+        if (window.empty()) return;
+        FontText& text = e.SourceText;
+        std::size_t written = 0;
+        std::size_t read = 0;
+        for (std::size_t pos = text.find(window); pos != FontText::npos; pos = text.find(window, read)) {
+            std::char_traits<char>::move(text.data() + written, text.data() + read, pos - read);
+            written += pos - read;
+            std::char_traits<char>::copy(text.data() + written, shorter.data(), shorter.size());
+            written += shorter.size();
+            read = pos + window.size();
         }
-        e.SourceText = std::move(rewritten);
+        text.erase(written, read - written);  // the rest of the text closes up behind the last copy
     };
 
     if (window.find(" on ") != FontText::npos) {
