@@ -17,31 +17,10 @@ using namespace vorlexa;
 
 constexpr int kLines = 3000;  // the long text a user types into
 
-// Questions are answered No; the boxes are strings.
-class QuietView : public app::Form1View {
-public:
-    int ask(const Question&, app::Language) override { return kAnswerNo; }
-    void notify(const Notice&, app::Language) override {}
-    FontText text3() const override { return text3_; }
-    void setText3(const FontText& t) override { text3_ = t; }
-    FontText text4() const override { return text4_; }
-    void setText4(const FontText& t) override { text4_ = t; }
-    app::TextSelection text4Selection() const override { return {}; }
-    void selectText4(app::TextSelection) override {}
-    void progressChanged(int) override {}
-    void stateChanged() override {}
-    void minimise() override {}
-    void setBusy(bool) override {}
-
-private:
-    FontText text3_;
-    FontText text4_;
-};
-
 struct Window {
     std::filesystem::path folder =
         std::filesystem::temp_directory_path() / ("vorlexa-instant-bench-" + std::to_string(::getpid()));
-    QuietView view;
+    app::WindowlessView view;
     app::MainForm form{view};
     FontText text;
 

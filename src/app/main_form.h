@@ -66,6 +66,27 @@ public:
     virtual void restoreAfterUnattendedRun() {}
 };
 
+// A window without widgets: the boxes are strings, every question is answered No, nothing is
+// drawn. For the command line's and the tests' own use of the main form.
+class WindowlessView : public Form1View {
+public:
+    int ask(const Question&, Language) override { return kAnswerNo; }
+    void notify(const Notice&, Language) override {}
+    FontText text3() const override { return Text3; }
+    void setText3(const FontText& t) override { Text3 = t; }
+    FontText text4() const override { return Text4; }
+    void setText4(const FontText& t) override { Text4 = t; }
+    TextSelection text4Selection() const override { return {}; }
+    void selectText4(TextSelection) override {}
+    void progressChanged(int) override {}
+    void stateChanged() override {}
+    void minimise() override {}
+    void setBusy(bool) override {}
+
+    FontText Text3;
+    FontText Text4;
+};
+
 // The state of one item of the window: a menu item, or a control with a caption.
 struct ItemState {
     bool checked = false;

@@ -7,27 +7,14 @@
 namespace vorlexa::app {
 namespace {
 
-// The main window with nothing drawn: the boxes are strings, every question is answered No.
-class QuietView : public Form1View {
+// The main window with nothing drawn, whose source box starts a run as a key stroke does.
+class QuietView : public WindowlessView {
   public:
     MainForm* form = nullptr;
-    FontText Text3;
-    FontText Text4;
-    int ask(const Question&, Language) override { return kAnswerNo; }
-    void notify(const Notice&, Language) override {}
-    FontText text3() const override { return Text3; }
     void setText3(const FontText& t) override {
         Text3 = t;
         if (form) form->Text3_Change(t);
     }
-    FontText text4() const override { return Text4; }
-    void setText4(const FontText& t) override { Text4 = t; }
-    TextSelection text4Selection() const override { return {}; }
-    void selectText4(TextSelection) override {}
-    void progressChanged(int) override {}
-    void stateChanged() override {}
-    void minimise() override {}
-    void setBusy(bool) override {}
 };
 
 class LookupPanelTest : public ::testing::Test {
