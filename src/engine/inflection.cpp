@@ -2,6 +2,7 @@
 // inflected Armenian word or word group, from the tag, the pending endings, the person and the
 // end of OutputText. The steps run in this order, each seeing what the ones before did.
 #include <algorithm>
+#include <array>
 #include <charconv>
 
 #include "engine/engine.h"
@@ -38,11 +39,17 @@ constexpr std::string_view kNounTag = "n    ";
 constexpr std::string_view kVerbTag = "v    ";
 constexpr std::string_view kIrregularVerbTag = "vi   ";
 
-// Armenian vowels as the syllable count knows them; "ւ" belongs to the vowel "ու".
-bool isCountedVowel(unsigned char c) {
-    static constexpr std::string_view kVowels = "աեէիոըօև"_ft;
-    return kVowels.find(static_cast<char>(font::toSmall(c))) != std::string_view::npos;
-}
+// Armenian vowels as the syllable count knows them; "ւ" belongs to the vowel "ու". A table by
+// byte, as the count asks it once or twice for each letter of every gloss.
+constexpr auto kCountedVowels = [] {
+    std::array<bool, 256> in{};
+    constexpr std::string_view kVowels = "աեէիոըօև"_ft;
+    for (int c = 0; c < 256; ++c)
+        in[static_cast<std::size_t>(c)] =
+            kVowels.find(static_cast<char>(font::toSmall(static_cast<unsigned char>(c)))) != std::string_view::npos;
+    return in;
+}();
+bool isCountedVowel(unsigned char c) { return kCountedVowels[c]; }
 bool isCountedConsonant(unsigned char c) {
     return font::isArmenianLetter(c) && !isCountedVowel(c) && font::toSmall(c) != static_cast<unsigned char>("ւ"_ft[0]);
 }
