@@ -37,6 +37,7 @@ Engine::Engine(DictionaryStore& dictionaries, std::filesystem::path folder, Host
 void Engine::openTermsFile() {
     TermsFile = RecordFile();
     TermsFile.open(dataFolder / kTermsFileName, kTermRecordLength);
+    termsFileMayStand_ = true;
     termsIndex_.clear();
     for (std::int64_t n = 1; n < TermCount; ++n)
         termsIndex_.insert(FontText(trimBlanks(TermsFile.read(n))));
