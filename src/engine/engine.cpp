@@ -17,13 +17,16 @@ constexpr std::size_t kResultRoomPerSourceByte = 2;
 
 // Replaces each double blank by one blank in a single left-to-right pass, so that three blanks
 // become two.
+// The text between double blanks is copied whole.
 FontText foldDoubleBlanks(std::string_view text) {
     FontText out;
     out.reserve(text.size() + 1);
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        out += text[i];
-        if (text[i] == ' ' && i + 1 < text.size() && text[i + 1] == ' ') ++i;
+    std::size_t from = 0;
+    for (std::size_t pair = text.find("  "); pair != std::string_view::npos; pair = text.find("  ", from)) {
+        out.append(text.substr(from, pair + 1 - from));
+        from = pair + 2;
     }
+    out.append(text.substr(from));
     return out;
 }
 
