@@ -87,6 +87,14 @@ TEST(EngineRun, DoubleBlanksFoldInOnePassSoThreeBecomeTwo) {
     EXPECT_EQ(seen, "zorb qux  wim ");
 }
 
+TEST(EngineRun, FourBlanksFoldToTwoFiveToThreeAndABlankAtTheEdgesStays) {
+    EngineFixture f(kSmallLexicon);
+    FontText seen;
+    f.host.onAsk = [&](const Question&) { seen = f.engine->SourceText; };
+    f.translate("  zorb    qux     wim  ");
+    EXPECT_EQ(seen, " zorb  qux   wim ");
+}
+
 TEST(EngineRun, TextEndingInBlankGetsNoSecondBlank) {
     EngineFixture f(kSmallLexicon);
     FontText seen;
