@@ -5,6 +5,7 @@
 #include <array>
 #include <charconv>
 #include <unordered_set>
+#include <vector>
 
 #include "engine/engine.h"
 
@@ -96,6 +97,16 @@ bool hasFormOfItsOwn(std::string_view gloss) {
         all.insert(std::begin(kPluralNouns), std::end(kPluralNouns));
         return all;
     }();
+    // The lengths and first letters of those glosses: most others are told apart without a hash.
+    constexpr std::size_t kLengthsTold = 32;  // longer glosses share the last entry
+    static const auto starts = [] {
+        std::vector<std::array<bool, 256>> table(kLengthsTold);
+        for (const std::string_view g : glosses)
+            table[std::min(g.size(), kLengthsTold - 1)][static_cast<unsigned char>(g[0])] = true;
+        return table;
+    }();
+    if (gloss.empty() || !starts[std::min(gloss.size(), kLengthsTold - 1)][static_cast<unsigned char>(gloss[0])])
+        return false;
     return glosses.contains(gloss);
 }
 
