@@ -97,20 +97,16 @@ PairRepairs::PairRepairs(std::vector<std::pair<std::string, std::string>> pairs)
     endsFrom_.push_back(static_cast<std::uint32_t>(ends_.size()));
 }
 
-bool PairRepairs::markOccurrences(std::string_view text, std::size_t from, std::size_t to,
+void PairRepairs::markOccurrences(std::string_view text, std::size_t from, std::size_t to,
                                   std::vector<std::uint64_t>& occurs) const {
     const std::size_t stride = classes_ + 1;
     std::uint32_t s = 0;
-    bool marked = false;
     for (std::size_t j = from; j < to; ++j) {
         s = next_[s * stride + byteClass_[static_cast<unsigned char>(text[j])]];
-        for (std::uint32_t t = endsFrom_[s] != endsFrom_[s + 1] ? s : outputLink_[s]; t != 0; t = outputLink_[t]) {
+        for (std::uint32_t t = endsFrom_[s] != endsFrom_[s + 1] ? s : outputLink_[s]; t != 0; t = outputLink_[t])
             for (std::uint32_t e = endsFrom_[t]; e < endsFrom_[t + 1]; ++e)
                 occurs[ends_[e] / kBitsPerWord] |= std::uint64_t{1} << (ends_[e] % kBitsPerWord);
-            marked = true;
-        }
     }
-    return marked;
 }
 
 bool PairRepairs::applyToPiece(std::string& piece, std::vector<std::uint64_t>& occurs) const {
@@ -161,7 +157,7 @@ bool PairRepairs::applyToPiece(std::string& piece, std::vector<std::uint64_t>& o
 void PairRepairs::apply(std::string& text) const {
     if (pairs_.empty() || text.empty()) return;
     std::vector<std::uint64_t> occurs((pairs_.size() + kBitsPerWord - 1) / kBitsPerWord);
-    bool occursMarked = false;  // occurs holds a mark: cleared before the next piece
+    std::vector<std::uint64_t> none(occurs.size());
     std::string out;  // made at the first change; until then the text stands as it is
     bool changed = false;
     std::string piece;
@@ -171,10 +167,10 @@ void PairRepairs::apply(std::string& text) const {
         while (end < text.size() && !cut_[static_cast<unsigned char>(text[end])]) ++end;
         if (end > start) {
             // Most pieces hold no find: they are scanned in place and never copied.
-            if (occursMarked) std::fill(occurs.begin(), occurs.end(), 0);
-            occursMarked = markOccurrences(text, start, end, occurs);
+            std::fill(occurs.begin(), occurs.end(), 0);
+            markOccurrences(text, start, end, occurs);
             bool repaired = false;
-            if (occursMarked) {
+            if (occurs != none) {
                 piece.assign(text, start, end - start);
                 repaired = applyToPiece(piece, occurs);
             }
