@@ -1,6 +1,8 @@
 // The run: set-up from the source pane, the direction guess, and the resets of the engine state.
 #include "engine/engine.h"
 
+#include <array>
+#include <cstdint>
 #include <system_error>
 
 namespace vorlexa {
@@ -30,7 +32,21 @@ FontText foldDoubleBlanks(std::string_view text) {
     return out;
 }
 
-bool isLatinLetter(unsigned char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+constexpr bool isLatinLetter(unsigned char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+
+// What the direction guess counts of each byte, looked up in a table: the count reads every byte.
+enum CountedKind : std::uint8_t { kUncounted, kQuestionMark, kQuote, kEnglishSign, kArmenianLetter, kCountedKinds };
+constexpr auto kCountedKind = [] {
+    std::array<std::uint8_t, 256> kind{};
+    for (int b = 0; b < 256; ++b) {
+        const auto c = static_cast<unsigned char>(b);
+        if (c == '?') kind[c] = kQuestionMark;
+        else if (c == '"') kind[c] = kQuote;
+        else if (isLatinLetter(c) || c == '!' || c == '&') kind[c] = kEnglishSign;
+        else if (font::isArmenianLetter(c)) kind[c] = kArmenianLetter;
+    }
+    return kind;
+}();
 
 }  // namespace
 
@@ -71,15 +87,12 @@ void Engine::Text3_Change(const FontText& text) {
     // A spell-check pass shows the text it checks, so that the word in question can be selected.
     host.setResultText(SpellMode == 1 ? SourceText : FontText{});
 
-    std::int64_t questions = 0;
-    std::int64_t quotes = 0;
-    for (auto it = SourceText.rbegin(); it != SourceText.rend(); ++it) {
-        const auto c = static_cast<unsigned char>(*it);
-        if (c == '?') ++questions;
-        else if (c == '"') ++quotes;
-        else if (isLatinLetter(c) || c == '!' || c == '&') ++EnglishCount;
-        else if (font::isArmenianLetter(c)) ++ArmenianCount;
-    }
+    std::array<std::int64_t, kCountedKinds> counts{};
+    for (const char ch : SourceText) ++counts[kCountedKind[static_cast<unsigned char>(ch)]];
+    const std::int64_t questions = counts[kQuestionMark];
+    const std::int64_t quotes = counts[kQuote];
+    EnglishCount += counts[kEnglishSign];
+    ArmenianCount += counts[kArmenianLetter];
     QuestionCount = static_cast<int>(questions);
     QuoteCount = static_cast<int>(quotes);
     const double length = static_cast<double>(SourceText.size());
