@@ -112,15 +112,17 @@ void Engine::Text3_Change(const FontText& text) {
 
     if (EnglishCount > ArmenianCount) {
         Check1 = 0;
-        host.setTitle(SpellMode == 1 ? Wording{"ENGLISH SPELLCHECKER", FontText("Սխալների ուղղում` անգլերենով"_ft)}
-                                     : Wording{"Translating from English to Armenian",
-                                               FontText("Թարգմանում է անգլերենից հայերեն:"_ft)});
+        static const Wording kSpellTitle{"ENGLISH SPELLCHECKER", FontText("Սխալների ուղղում` անգլերենով"_ft)};
+        static const Wording kRunTitle{"Translating from English to Armenian",
+                                       FontText("Թարգմանում է անգլերենից հայերեն:"_ft)};
+        host.setTitle(SpellMode == 1 ? kSpellTitle : kRunTitle);
     } else {
         Check1 = 1;
         if (static_cast<double>(quotes) / length * 100.0 >= kQuoteLetterShare) QuoteCount = "ե"_ft;
-        host.setTitle(SpellMode == 1 ? Wording{"ARMENIAN SPELLCHECKER", FontText("Սխալների ուղղում` հայերենով"_ft)}
-                                     : Wording{"Translating from Armenian to English",
-                                               FontText("Թարգմանում է հայերենից անգլերեն:"_ft)});
+        static const Wording kSpellTitle{"ARMENIAN SPELLCHECKER", FontText("Սխալների ուղղում` հայերենով"_ft)};
+        static const Wording kRunTitle{"Translating from Armenian to English",
+                                       FontText("Թարգմանում է հայերենից անգլերեն:"_ft)};
+        host.setTitle(SpellMode == 1 ? kSpellTitle : kRunTitle);
     }
 
     if (!checked(MenuItem::ITR)) host.showProgress(true);
