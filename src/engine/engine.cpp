@@ -1,6 +1,8 @@
 // The run: set-up from the source pane, the direction guess, and the resets of the engine state.
 #include "engine/engine.h"
 
+#include <array>
+#include <cstdint>
 #include <system_error>
 
 namespace vorlexa {
@@ -17,17 +19,34 @@ constexpr std::size_t kResultRoomPerSourceByte = 2;
 
 // Replaces each double blank by one blank in a single left-to-right pass, so that three blanks
 // become two.
+// The text between double blanks is copied whole.
 FontText foldDoubleBlanks(std::string_view text) {
     FontText out;
     out.reserve(text.size() + 1);
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        out += text[i];
-        if (text[i] == ' ' && i + 1 < text.size() && text[i + 1] == ' ') ++i;
+    std::size_t from = 0;
+    for (std::size_t pair = text.find("  "); pair != std::string_view::npos; pair = text.find("  ", from)) {
+        out.append(text.substr(from, pair + 1 - from));
+        from = pair + 2;
     }
+    out.append(text.substr(from));
     return out;
 }
 
-bool isLatinLetter(unsigned char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+constexpr bool isLatinLetter(unsigned char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+
+// What the direction guess counts of each byte, looked up in a table: the count reads every byte.
+enum CountedKind : std::uint8_t { kUncounted, kQuestionMark, kQuote, kEnglishSign, kArmenianLetter, kCountedKinds };
+constexpr auto kCountedKind = [] {
+    std::array<std::uint8_t, 256> kind{};
+    for (int b = 0; b < 256; ++b) {
+        const auto c = static_cast<unsigned char>(b);
+        if (c == '?') kind[c] = kQuestionMark;
+        else if (c == '"') kind[c] = kQuote;
+        else if (isLatinLetter(c) || c == '!' || c == '&') kind[c] = kEnglishSign;
+        else if (font::isArmenianLetter(c)) kind[c] = kArmenianLetter;
+    }
+    return kind;
+}();
 
 }  // namespace
 
@@ -37,6 +56,7 @@ Engine::Engine(DictionaryStore& dictionaries, std::filesystem::path folder, Host
 void Engine::openTermsFile() {
     TermsFile = RecordFile();
     TermsFile.open(dataFolder / kTermsFileName, kTermRecordLength);
+    termsFileMayStand_ = true;
     termsIndex_.clear();
     for (std::int64_t n = 1; n < TermCount; ++n)
         termsIndex_.insert(FontText(trimBlanks(TermsFile.read(n))));
@@ -67,15 +87,12 @@ void Engine::Text3_Change(const FontText& text) {
     // A spell-check pass shows the text it checks, so that the word in question can be selected.
     host.setResultText(SpellMode == 1 ? SourceText : FontText{});
 
-    std::int64_t questions = 0;
-    std::int64_t quotes = 0;
-    for (auto it = SourceText.rbegin(); it != SourceText.rend(); ++it) {
-        const auto c = static_cast<unsigned char>(*it);
-        if (c == '?') ++questions;
-        else if (c == '"') ++quotes;
-        else if (isLatinLetter(c) || c == '!' || c == '&') ++EnglishCount;
-        else if (font::isArmenianLetter(c)) ++ArmenianCount;
-    }
+    std::array<std::int64_t, kCountedKinds> counts{};
+    for (const char ch : SourceText) ++counts[kCountedKind[static_cast<unsigned char>(ch)]];
+    const std::int64_t questions = counts[kQuestionMark];
+    const std::int64_t quotes = counts[kQuote];
+    EnglishCount += counts[kEnglishSign];
+    ArmenianCount += counts[kArmenianLetter];
     QuestionCount = static_cast<int>(questions);
     QuoteCount = static_cast<int>(quotes);
     const double length = static_cast<double>(SourceText.size());
@@ -95,15 +112,17 @@ void Engine::Text3_Change(const FontText& text) {
 
     if (EnglishCount > ArmenianCount) {
         Check1 = 0;
-        host.setTitle(SpellMode == 1 ? Wording{"ENGLISH SPELLCHECKER", FontText("Սխալների ուղղում` անգլերենով"_ft)}
-                                     : Wording{"Translating from English to Armenian",
-                                               FontText("Թարգմանում է անգլերենից հայերեն:"_ft)});
+        static const Wording kSpellTitle{"ENGLISH SPELLCHECKER", FontText("Սխալների ուղղում` անգլերենով"_ft)};
+        static const Wording kRunTitle{"Translating from English to Armenian",
+                                       FontText("Թարգմանում է անգլերենից հայերեն:"_ft)};
+        host.setTitle(SpellMode == 1 ? kSpellTitle : kRunTitle);
     } else {
         Check1 = 1;
         if (static_cast<double>(quotes) / length * 100.0 >= kQuoteLetterShare) QuoteCount = "ե"_ft;
-        host.setTitle(SpellMode == 1 ? Wording{"ARMENIAN SPELLCHECKER", FontText("Սխալների ուղղում` հայերենով"_ft)}
-                                     : Wording{"Translating from Armenian to English",
-                                               FontText("Թարգմանում է հայերենից անգլերեն:"_ft)});
+        static const Wording kSpellTitle{"ARMENIAN SPELLCHECKER", FontText("Սխալների ուղղում` հայերենով"_ft)};
+        static const Wording kRunTitle{"Translating from Armenian to English",
+                                       FontText("Թարգմանում է հայերենից անգլերեն:"_ft)};
+        host.setTitle(SpellMode == 1 ? kSpellTitle : kRunTitle);
     }
 
     if (!checked(MenuItem::ITR)) host.showProgress(true);

@@ -31,6 +31,7 @@
 #include "engine/pair_repairs.h"
 #include "engine/progress_guard.h"
 #include "engine/var.h"
+#include "engine/watched_file.h"
 #include "text/font_text.h"
 
 namespace vorlexa {
@@ -281,6 +282,9 @@ private:
     // of untranslated terms, or when the run hands the window back before it ends.
     void ensureTermsFile();
     bool termsFilePending_ = false;  // a run has begun and its TermsFile is not open yet
+    // The data folder is one program's: the TermsFile stands only when this engine made it, or
+    // when a program before it left it behind, so the end of a run deletes it only then.
+    bool termsFileMayStand_ = true;
     void refuseUnknownWordQuestions();
     bool scanTurn();  // one turn of the scanner; false when the scanner must leave
     void wordEndTail(int c);
@@ -295,10 +299,11 @@ private:
     struct PairList {
         bool loaded = false;
         FileStamp stamp;
+        WatchedFile file;  // the file read, held open to tell a change
         PairRepairs repairs;  // find, replace; empty finds left out
     };
-    const PairList* pairList(const std::string& name);
-    std::map<std::string, PairList> pairLists_;
+    const PairList* pairList(std::string_view name);
+    std::map<std::string, PairList, std::less<>> pairLists_;
 
     int lastProgress_ = -1;
     bool guardTurn(std::int64_t scanPosBefore);  // false when the guard has stopped the run

@@ -2,7 +2,10 @@
 // inflected Armenian word or word group, from the tag, the pending endings, the person and the
 // end of OutputText. The steps run in this order, each seeing what the ones before did.
 #include <algorithm>
+#include <array>
 #include <charconv>
+#include <unordered_set>
+#include <vector>
 
 #include "engine/engine.h"
 
@@ -38,11 +41,17 @@ constexpr std::string_view kNounTag = "n    ";
 constexpr std::string_view kVerbTag = "v    ";
 constexpr std::string_view kIrregularVerbTag = "vi   ";
 
-// Armenian vowels as the syllable count knows them; "ւ" belongs to the vowel "ու".
-bool isCountedVowel(unsigned char c) {
-    static constexpr std::string_view kVowels = "աեէիոըօև"_ft;
-    return kVowels.find(static_cast<char>(font::toSmall(c))) != std::string_view::npos;
-}
+// Armenian vowels as the syllable count knows them; "ւ" belongs to the vowel "ու". A table by
+// byte, as the count asks it once or twice for each letter of every gloss.
+constexpr auto kCountedVowels = [] {
+    std::array<bool, 256> in{};
+    constexpr std::string_view kVowels = "աեէիոըօև"_ft;
+    for (int c = 0; c < 256; ++c)
+        in[static_cast<std::size_t>(c)] =
+            kVowels.find(static_cast<char>(font::toSmall(static_cast<unsigned char>(c)))) != std::string_view::npos;
+    return in;
+}();
+bool isCountedVowel(unsigned char c) { return kCountedVowels[c]; }
 bool isCountedConsonant(unsigned char c) {
     return font::isArmenianLetter(c) && !isCountedVowel(c) && font::toSmall(c) != static_cast<unsigned char>("ւ"_ft[0]);
 }
@@ -67,6 +76,38 @@ constexpr std::string_view kPluralNouns[] = {"մարդիկ"_ft, "տղամարդ�
 template <std::size_t N>
 bool inList(std::string_view s, const std::string_view (&list)[N]) {
     return std::find(std::begin(list), std::end(list), s) != std::end(list);
+}
+
+// The glosses step H has a rule for, besides the lists above. Any other gloss passes the step as
+// it is, and most glosses are others: one look-up spares them the step's many comparisons. A
+// rule added to the step adds its gloss here.
+constexpr std::string_view kGlossesOfStepH[] = {
+    "մարդ"_ft,  "քույր"_ft, "տեր"_ft,   "կին"_ft,     "կանայք"_ft, "ամուսին"_ft, "աղջիկ"_ft,
+    "հայր"_ft,  "մայր"_ft,  "եղբայր"_ft, "վաղը"_ft,   "տարի"_ft,   "օր"_ft,      "գիշեր"_ft,
+    "կեսօր"_ft, "երեկ"_ft,  "այսօր"_ft, "առավոտ"_ft, "ցերեկ"_ft,  "ամիս"_ft,    "ժամանակ"_ft,
+    "կանչել"_ft, "զով"_ft,  "գոլորշի"_ft, "մաս"_ft,   "հոդված"_ft, "համբույր"_ft, "զրույց"_ft};
+
+bool hasFormOfItsOwn(std::string_view gloss) {
+    static const std::unordered_set<std::string_view> glosses = [] {
+        std::unordered_set<std::string_view> all(std::begin(kGlossesOfStepH), std::end(kGlossesOfStepH));
+        all.insert(std::begin(kOrdinals), std::end(kOrdinals));
+        all.insert(std::begin(kUnitWords), std::end(kUnitWords));
+        all.insert(std::begin(kMonths), std::end(kMonths));
+        all.insert(std::begin(kWeekDays), std::end(kWeekDays));
+        all.insert(std::begin(kPluralNouns), std::end(kPluralNouns));
+        return all;
+    }();
+    // The lengths and first letters of those glosses: most others are told apart without a hash.
+    constexpr std::size_t kLengthsTold = 32;  // longer glosses share the last entry
+    static const auto starts = [] {
+        std::vector<std::array<bool, 256>> table(kLengthsTold);
+        for (const std::string_view g : glosses)
+            table[std::min(g.size(), kLengthsTold - 1)][static_cast<unsigned char>(g[0])] = true;
+        return table;
+    }();
+    if (gloss.empty() || !starts[std::min(gloss.size(), kLengthsTold - 1)][static_cast<unsigned char>(gloss[0])])
+        return false;
+    return glosses.contains(gloss);
 }
 
 // The text ends in this word standing alone, whatever the case of its letters (a word that began
@@ -153,86 +194,88 @@ void Engine::inflect_G_to_S() {
 
     // H. Irregular nouns and the words with forms of their own.
     bool pluralPerson = false;  // a week day or a plural noun: person 4, which P keeps
-    if (gloss == "մարդ"_ft) {
-        if (!ending.empty() && ending != "ով"_ft) gloss = "մարդու"_ft;
-    } else if (gloss == "քույր"_ft || gloss == "տեր"_ft || gloss == "կին"_ft || gloss == "կանայք"_ft) {
-        const bool pluralExcluded = (gloss == "քույր"_ft || gloss == "տեր"_ft) && ending == "ներ"_ft;
-        if (!ending.empty() && !pluralExcluded) {
-            if (gloss == "քույր"_ft) gloss = "քրոջ"_ft;
-            else if (gloss == "տեր"_ft) gloss = "տիրոջ"_ft;
-            else if (gloss == "կին"_ft) gloss = "կնոջ"_ft;
-            else gloss = "կանանց"_ft;
-            if (ending.starts_with("ի"_ft) && ending != "ից"_ft) ending.erase(0, "ի"_ft.size());
+    if (hasFormOfItsOwn(gloss)) {
+        if (gloss == "մարդ"_ft) {
+            if (!ending.empty() && ending != "ով"_ft) gloss = "մարդու"_ft;
+        } else if (gloss == "քույր"_ft || gloss == "տեր"_ft || gloss == "կին"_ft || gloss == "կանայք"_ft) {
+            const bool pluralExcluded = (gloss == "քույր"_ft || gloss == "տեր"_ft) && ending == "ներ"_ft;
+            if (!ending.empty() && !pluralExcluded) {
+                if (gloss == "քույր"_ft) gloss = "քրոջ"_ft;
+                else if (gloss == "տեր"_ft) gloss = "տիրոջ"_ft;
+                else if (gloss == "կին"_ft) gloss = "կնոջ"_ft;
+                else gloss = "կանանց"_ft;
+                if (ending.starts_with("ի"_ft) && ending != "ից"_ft) ending.erase(0, "ի"_ft.size());
+            }
+        } else if (gloss == "ամուսին"_ft) {
+            if (caseEnding) gloss = "ամուսնու"_ft;
+        } else if (gloss == "աղջիկ"_ft) {
+            if (caseEnding) gloss = (ending == "ով"_ft || ending == "ից"_ft) ? "աղջկան"_ft : "աղջկա"_ft;
+        } else if (gloss == "հայր"_ft || gloss == "մայր"_ft || gloss == "եղբայր"_ft) {
+            if (caseEnding) gloss = dropLast(gloss, "այր"_ft.size()) + FontText("որ"_ft);
+        } else if (gloss == "վաղը"_ft || gloss == "տարի"_ft) {
+            if (ending == "ից"_ft || ending == "ով"_ft) {
+                gloss = dropLast(gloss, 1) + FontText("վան"_ft);
+            } else if (ending == "ի"_ft) {
+                gloss = dropLast(gloss, 1) + FontText("վա"_ft);
+                ending.clear();
+            }
+        } else if (oneOf(gloss, {"օր"_ft, "գիշեր"_ft, "կեսօր"_ft, "երեկ"_ft, "այսօր"_ft, "առավոտ"_ft, "ցերեկ"_ft})) {
+            if (ending == "ի"_ft) {
+                gloss += "վա"_ft;
+                ending.clear();
+            }
+        } else if (gloss == "ամիս"_ft) {
+            if (ending == "ի"_ft) {
+                gloss = "ամսվա"_ft;
+                ending.clear();
+            }
+        } else if (gloss == "ժամանակ"_ft) {
+            if (ending == "ի համար"_ft) ending.clear();
+        } else if (gloss == "կանչել"_ft) {
+            if (!ending.empty()) {
+                gloss = "կանչ"_ft;
+                WordTag = FontText(kNounTag);
+            }
+        } else if (gloss == "զով"_ft) {
+            if (nextIs("down")) {
+                gloss = "հովանալ"_ft;
+                WordTag = FontText(kVerbTag);
+            }
+        } else if (gloss == "գոլորշի"_ft) {
+            if (nextIs("up ") || nextIs("up,") || nextIs("up!")) {
+                gloss = "զայրանալ"_ft;
+                WordTag = FontText(kVerbTag);
+            }
+        } else if (gloss == "մաս"_ft) {
+            // The skip lands on the last letter of the phrase; that letter then ends as an empty word.
+            // The design gives the skip of "of speeches" only; "of speech" is skipped by its own
+            // length in the same way, so that the phrase is not read again as words.
+            if (nextIs("of speeches")) {
+                gloss = "խոսքի մասեր"_ft;
+                ScanPos += std::string_view("of speeches").size();
+            } else if (nextIs("of speech")) {
+                gloss = "խոսքի մաս"_ft;
+                ScanPos += std::string_view("of speech").size();
+            }
+        } else if (inList(gloss, kOrdinals)) {
+            dasakan_tver();
+        } else if (inList(gloss, kUnitWords)) {
+            if (afterTensWord(OutputText)) OutputText.pop_back();
+        } else if (gloss == "հոդված"_ft) {
+            // The grammar article: "definite article", "indefinite article".
+            const std::string_view output = OutputText;
+            if (output.ends_with(' ') && (endsWithWordOf(output.substr(0, output.size() - 1), "որոշյալ"_ft) ||
+                                          endsWithWordOf(output.substr(0, output.size() - 1), "անորոշ"_ft)))
+                gloss = "հոդ"_ft;
+        } else if (inList(gloss, kMonths)) {
+            if (oneOf(ending, {"ի մեջ"_ft, "ի վրա"_ft, "ով"_ft})) ending = "ին"_ft;
+        } else if (inList(gloss, kWeekDays) || inList(gloss, kPluralNouns)) {
+            PersonCode = 4;
+            pluralPerson = true;
+            if (ending == "ներ"_ft) ending.clear();
+        } else if (gloss == "համբույր"_ft || gloss == "զրույց"_ft) {
+            if (!VerbFormMark.empty() && gloss.size() >= 2) gloss.erase(gloss.size() - 2, 1);
         }
-    } else if (gloss == "ամուսին"_ft) {
-        if (caseEnding) gloss = "ամուսնու"_ft;
-    } else if (gloss == "աղջիկ"_ft) {
-        if (caseEnding) gloss = (ending == "ով"_ft || ending == "ից"_ft) ? "աղջկան"_ft : "աղջկա"_ft;
-    } else if (gloss == "հայր"_ft || gloss == "մայր"_ft || gloss == "եղբայր"_ft) {
-        if (caseEnding) gloss = dropLast(gloss, "այր"_ft.size()) + FontText("որ"_ft);
-    } else if (gloss == "վաղը"_ft || gloss == "տարի"_ft) {
-        if (ending == "ից"_ft || ending == "ով"_ft) {
-            gloss = dropLast(gloss, 1) + FontText("վան"_ft);
-        } else if (ending == "ի"_ft) {
-            gloss = dropLast(gloss, 1) + FontText("վա"_ft);
-            ending.clear();
-        }
-    } else if (oneOf(gloss, {"օր"_ft, "գիշեր"_ft, "կեսօր"_ft, "երեկ"_ft, "այսօր"_ft, "առավոտ"_ft, "ցերեկ"_ft})) {
-        if (ending == "ի"_ft) {
-            gloss += "վա"_ft;
-            ending.clear();
-        }
-    } else if (gloss == "ամիս"_ft) {
-        if (ending == "ի"_ft) {
-            gloss = "ամսվա"_ft;
-            ending.clear();
-        }
-    } else if (gloss == "ժամանակ"_ft) {
-        if (ending == "ի համար"_ft) ending.clear();
-    } else if (gloss == "կանչել"_ft) {
-        if (!ending.empty()) {
-            gloss = "կանչ"_ft;
-            WordTag = FontText(kNounTag);
-        }
-    } else if (gloss == "զով"_ft) {
-        if (nextIs("down")) {
-            gloss = "հովանալ"_ft;
-            WordTag = FontText(kVerbTag);
-        }
-    } else if (gloss == "գոլորշի"_ft) {
-        if (nextIs("up ") || nextIs("up,") || nextIs("up!")) {
-            gloss = "զայրանալ"_ft;
-            WordTag = FontText(kVerbTag);
-        }
-    } else if (gloss == "մաս"_ft) {
-        // The skip lands on the last letter of the phrase; that letter then ends as an empty word.
-        // The design gives the skip of "of speeches" only; "of speech" is skipped by its own
-        // length in the same way, so that the phrase is not read again as words.
-        if (nextIs("of speeches")) {
-            gloss = "խոսքի մասեր"_ft;
-            ScanPos += std::string_view("of speeches").size();
-        } else if (nextIs("of speech")) {
-            gloss = "խոսքի մաս"_ft;
-            ScanPos += std::string_view("of speech").size();
-        }
-    } else if (inList(gloss, kOrdinals)) {
-        dasakan_tver();
-    } else if (inList(gloss, kUnitWords)) {
-        if (afterTensWord(OutputText)) OutputText.pop_back();
-    } else if (gloss == "հոդված"_ft) {
-        // The grammar article: "definite article", "indefinite article".
-        const std::string_view output = OutputText;
-        if (output.ends_with(' ') && (endsWithWordOf(output.substr(0, output.size() - 1), "որոշյալ"_ft) ||
-                                      endsWithWordOf(output.substr(0, output.size() - 1), "անորոշ"_ft)))
-            gloss = "հոդ"_ft;
-    } else if (inList(gloss, kMonths)) {
-        if (oneOf(ending, {"ի մեջ"_ft, "ի վրա"_ft, "ով"_ft})) ending = "ին"_ft;
-    } else if (inList(gloss, kWeekDays) || inList(gloss, kPluralNouns)) {
-        PersonCode = 4;
-        pluralPerson = true;
-        if (ending == "ներ"_ft) ending.clear();
-    } else if (gloss == "համբույր"_ft || gloss == "զրույց"_ft) {
-        if (!VerbFormMark.empty() && gloss.size() >= 2) gloss.erase(gloss.size() - 2, 1);
     }
 
     // I. Small fixes.

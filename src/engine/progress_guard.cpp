@@ -11,18 +11,6 @@ void ProgressGuard::start() {
     turnsWithoutProgress_ = 0;
 }
 
-GuardVerdict ProgressGuard::afterTurn(std::int64_t before, std::int64_t after, std::size_t outputSize,
-                                      std::size_t sourceSize) {
-    if (outputSize > limits.maxOutputFor(sourceSize)) return GuardVerdict::OutputTooLong;
-    if (after > furthest_) {
-        furthest_ = after;
-        turnsWithoutProgress_ = 0;
-    } else if (after <= before && ++turnsWithoutProgress_ >= limits.turnsWithoutProgress) {
-        return GuardVerdict::Stalled;
-    }
-    return GuardVerdict::Go;
-}
-
 std::int64_t characterNumber(std::string_view font, std::int64_t pos) {
     const auto before = static_cast<std::size_t>(std::clamp<std::int64_t>(pos - 1, 0, static_cast<std::int64_t>(font.size())));
     std::int64_t n = 0;

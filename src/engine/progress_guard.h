@@ -48,8 +48,18 @@ public:
 
     // A new run from its first position.
     void start();
-    // After one turn of the scanner that went from ScanPos `before` to `after`.
-    GuardVerdict afterTurn(std::int64_t before, std::int64_t after, std::size_t outputSize, std::size_t sourceSize);
+    // After one turn of the scanner that went from ScanPos `before` to `after`. Inline: the
+    // scanner asks it at every character.
+    GuardVerdict afterTurn(std::int64_t before, std::int64_t after, std::size_t outputSize, std::size_t sourceSize) {
+        if (outputSize > limits.maxOutputFor(sourceSize)) return GuardVerdict::OutputTooLong;
+        if (after > furthest_) {
+            furthest_ = after;
+            turnsWithoutProgress_ = 0;
+        } else if (after <= before && ++turnsWithoutProgress_ >= limits.turnsWithoutProgress) {
+            return GuardVerdict::Stalled;
+        }
+        return GuardVerdict::Go;
+    }
 
     std::int64_t furthest() const { return furthest_; }
 

@@ -39,6 +39,12 @@ struct CharTable {
 constexpr CharTable kDelimiters(kDelimiterList);
 constexpr CharTable kRawDelimiters(kDelimiterList, '"');
 constexpr CharTable kCopied(kCopiedList);
+// The first bytes of the scanner's literal tests. The tests are dozens a character: a character
+// that starts none of them skips them all.
+constexpr CharTable kApostrophes(std::string_view("'\x92"));
+constexpr CharTable kAbbreviationStarts(std::string_view("Uupa"));
+constexpr CharTable kAbbreviationSeconds(std::string_view("S."));
+constexpr CharTable kPossessiveLetters(std::string_view("sS"));
 
 // Characters after which the endings of a number stay pending.
 constexpr bool keepsEndingsPending(int c) {
@@ -222,13 +228,18 @@ bool Engine::scanTurn() {
         return static_cast<unsigned char>(SourceText[static_cast<std::size_t>(p - 1)]);
     };
     const auto c = [&] { return charAt(ScanPos); };
+    const auto in = [&](const CharTable& table, std::int64_t p) {
+        const int b = charAt(p);
+        return b != kNoChar && table.in[static_cast<unsigned char>(b)];
+    };
+    const auto apostropheHere = [&] { return in(kApostrophes, ScanPos); };
     const bool englishSource = Check1 == 0;
 
     // Armenian text: a question mark is skipped.
     if (!englishSource && c() == '?') ++ScanPos;
 
     // An e-mail address or an archive name goes through untranslated.
-    if (c() == '@' || nextIs(".zip") || nextIs(".rar")) {
+    if (c() == '@' || (charAt(ScanPos + 1) == '.' && (nextIs(".zip") || nextIs(".rar")))) {
         HttpPassThrough = std::move(CurrentWord);
         CurrentWord.clear();
         InternetWhile();
@@ -254,16 +265,18 @@ bool Engine::scanTurn() {
         ClassChain = "n";
         ScanPos += length;
     };
-    if (atIs("US ")) {
-        abbreviation("ՄՆ"_ft, true, 3);
-    } else if (atIs("U.S.") || atIs("u.s.")) {
-        abbreviation("Մ.Ն."_ft, true, 4);
-    } else if (atIs("U.N.") || atIs("u.n.")) {
-        abbreviation("ՄԱԿ"_ft, true, 4);
-    } else if (atIs("p.m.")) {
-        abbreviation("կեսօրից հետո"_ft, false, 4);
-    } else if (atIs("a.m.")) {
-        abbreviation("կեսօրից առաջ"_ft, false, 4);
+    if (in(kAbbreviationStarts, ScanPos) && in(kAbbreviationSeconds, ScanPos + 1)) {
+        if (atIs("US ")) {
+            abbreviation("ՄՆ"_ft, true, 3);
+        } else if (atIs("U.S.") || atIs("u.s.")) {
+            abbreviation("Մ.Ն."_ft, true, 4);
+        } else if (atIs("U.N.") || atIs("u.n.")) {
+            abbreviation("ՄԱԿ"_ft, true, 4);
+        } else if (atIs("p.m.")) {
+            abbreviation("կեսօրից հետո"_ft, false, 4);
+        } else if (atIs("a.m.")) {
+            abbreviation("կեսօրից առաջ"_ft, false, 4);
+        }
     }
 
     mecatarer();
@@ -309,7 +322,7 @@ bool Engine::scanTurn() {
     };
 
     // "'ll": the word before is looked up, and "shall" follows.
-    if (atIs("'ll") || atIs("\x92ll")) {
+    if (apostropheHere() && (atIs("'ll") || atIs("\x92ll"))) {
         if (!CurrentWord.empty()) CurrentWord.pop_back();
         ScanPos += 3;
         if (!lookUpWordBefore()) return true;
@@ -319,7 +332,7 @@ bool Engine::scanTurn() {
 
     // "'m" and "'re" stand for "am" and "are": the word before is looked up, and the copula
     // follows as a word of its own ("I'm right" as "I am right").
-    if (englishSource && (atIs("'m ") || atIs("\x92m ") || atIs("'re ") || atIs("\x92re "))) {
+    if (englishSource && apostropheHere() && (atIs("'m ") || atIs("\x92m ") || atIs("'re ") || atIs("\x92re "))) {
         const bool am = atIs("'m ") || atIs("\x92m ");
         if (!CurrentWord.empty()) CurrentWord.pop_back();
         ScanPos += am ? 2 : 3;
@@ -330,7 +343,7 @@ bool Engine::scanTurn() {
 
     // "'ve" stands for "have" and "'d" for "had" or "would", told by the word after it, the
     // same way: the word before is looked up and the full form follows.
-    if (englishSource && (atIs("'ve ") || atIs("\x92ve ") || atIs("'d ") || atIs("\x92" "d "))) {
+    if (englishSource && apostropheHere() && (atIs("'ve ") || atIs("\x92ve ") || atIs("'d ") || atIs("\x92" "d "))) {
         const bool have = atIs("'ve ") || atIs("\x92ve ");
         if (!CurrentWord.empty()) CurrentWord.pop_back();
         ScanPos += have ? 3 : 2;
@@ -349,7 +362,7 @@ bool Engine::scanTurn() {
 
     // "n't": the word stands for its affirmative and the negation goes before the verb.
     bool intoDispatch = false;
-    if (atIs("'t ") || atIs("\x92t ")) {
+    if (apostropheHere() && (atIs("'t ") || atIs("\x92t "))) {
         if (!CurrentWord.empty()) CurrentWord.pop_back();
         ContractionFlag = 1;
         const FontText stem = CurrentWord;
@@ -393,7 +406,9 @@ bool Engine::scanTurn() {
     bool wordEnd = intoDispatch;
     if (!intoDispatch) {
         // "'s": the possessive, or "it's" with its copula held to the clause end.
-        if (englishSource && ScanPos > 2 &&
+        const bool possessiveHere =
+            apostropheHere() || (in(kPossessiveLetters, ScanPos) && in(kApostrophes, ScanPos + 1));
+        if (englishSource && ScanPos > 2 && possessiveHere &&
             (atIs("'s ") || atIs("'S ") || atIs("\x92s ") || atIs("\x92S ") || atIs("'s.") || atIs("'S.") ||
              atIs("\x92s.") || atIs("\x92S.") || atIs("'s,") || atIs("'S,") || atIs("\x92s,") || atIs("\x92S,") ||
              atIs("'s;") || atIs("'S;") || atIs("\x92s;") || atIs("\x92S;") || atIs("\x92s") || atIs("s'") ||

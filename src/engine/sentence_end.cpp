@@ -66,10 +66,12 @@ void replaceAll(FontText& text, std::string_view find, std::string_view with) {
 
 }  // namespace
 
-const Engine::PairList* Engine::pairList(const std::string& name) {
+const Engine::PairList* Engine::pairList(std::string_view name) {
+    auto entry = pairLists_.find(name);
+    if (entry == pairLists_.end()) entry = pairLists_.emplace(std::string(name), PairList()).first;
+    PairList& list = entry->second;
+    if (list.loaded && list.file.stamp() == list.stamp) return &list;
     const std::filesystem::path path = dataFolder / name;
-    PairList& list = pairLists_[path.string()];
-    if (list.loaded && FileStamp::of(path) == list.stamp) return &list;
 
     list = PairList();
     RecordFile pairs;
@@ -86,7 +88,8 @@ const Engine::PairList* Engine::pairList(const std::string& name) {
     list.repairs = PairRepairs(std::move(found));
     // A time stamp has a coarse tick: a list written just before it was read could be written again
     // under the same stamp and size, so such a list is read again until its stamp has settled.
-    const std::optional<FileStamp> stamp = FileStamp::of(path);
+    list.file = WatchedFile(path);
+    const std::optional<FileStamp> stamp = list.file.stamp();
     if (stamp) list.stamp = *stamp;
     const auto now = std::chrono::duration_cast<std::chrono::nanoseconds>(
                          std::chrono::system_clock::now().time_since_epoch()).count();
@@ -95,7 +98,7 @@ const Engine::PairList* Engine::pairList(const std::string& name) {
 }
 
 void Engine::poqr_uxxumner1() {
-    const PairList* list = pairList(std::string("uxxum") + (Check1 == 0 ? "a" : "e"));
+    const PairList* list = pairList(Check1 == 0 ? "uxxuma" : "uxxume");
     if (list != nullptr) list->repairs.apply(OutputText);
 }
 
@@ -160,8 +163,11 @@ void Engine::TransEndProcedure() {
     }
     TermsFile = RecordFile();
     termsFilePending_ = false;
-    std::error_code ignored;
-    std::filesystem::remove(dataFolder / kTermsFileName, ignored);
+    if (termsFileMayStand_) {
+        std::error_code ignored;
+        std::filesystem::remove(dataFolder / kTermsFileName, ignored);
+        termsFileMayStand_ = false;
+    }
     host.setBusy(false);
     resetRun();
     host.clearWordList();

@@ -26,6 +26,8 @@ public:
 
     // True when the value is the number n: "1" for 1, never for empty or other text.
     bool is(int n) const {
+        constexpr int kOneDigit = 10;  // the flags' 0 and 1 and the small codes, told without a conversion
+        if (n >= 0 && n < kOneDigit) return text_.size() == 1 && text_[0] == static_cast<char>('0' + n);
         char buf[16];
         const auto r = std::to_chars(buf, buf + sizeof buf, n);
         return std::string_view(buf, static_cast<std::size_t>(r.ptr - buf)) == text_;

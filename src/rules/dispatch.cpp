@@ -18,9 +18,14 @@ TriggerTable::TriggerTable(std::vector<TriggerRow> rows) : rows_(std::move(rows)
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         for (std::string_view w : rows_[i].words) first_.try_emplace(w, i);  // the first entry decides
     }
+    for (const auto& [w, row] : first_) {
+        if (!w.empty()) startsByLength_[std::min(w.size(), kLengthsTold - 1)][static_cast<unsigned char>(w[0])] = true;
+    }
 }
 
 const TriggerRow* TriggerTable::find(std::string_view word) const {
+    if (!word.empty() && !startsByLength_[std::min(word.size(), kLengthsTold - 1)][static_cast<unsigned char>(word[0])])
+        return nullptr;
     const auto it = first_.find(word);
     return it == first_.end() ? nullptr : &rows_[it->second];
 }

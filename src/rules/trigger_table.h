@@ -14,6 +14,7 @@
 // word("moreover") sets CurrentWord to a dictionary key, emit() looks it up and writes it.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
@@ -72,6 +73,10 @@ public:
 private:
     std::vector<TriggerRow> rows_;
     std::unordered_map<std::string_view, std::size_t> first_;  // word -> its first row
+    // The lengths and first bytes the listed words have: most words of a text have another pair,
+    // and are told to be on no list without a hash of the word.
+    static constexpr std::size_t kLengthsTold = 32;  // longer words share the last entry
+    std::vector<std::array<bool, 256>> startsByLength_ = std::vector<std::array<bool, 256>>(kLengthsTold);
 };
 
 // Runs one row as the dispatch does; nullopt when the row's procedure is not built.

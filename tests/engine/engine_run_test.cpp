@@ -2,6 +2,8 @@
 // the progress bar, the TermsFile and the resets.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <regex>
 
 #include "engine/engine.h"
@@ -83,6 +85,14 @@ TEST(EngineRun, DoubleBlanksFoldInOnePassSoThreeBecomeTwo) {
     f.host.onAsk = [&](const Question&) { seen = f.engine->SourceText; };
     f.translate("zorb  qux   wim");
     EXPECT_EQ(seen, "zorb qux  wim ");
+}
+
+TEST(EngineRun, FourBlanksFoldToTwoFiveToThreeAndABlankAtTheEdgesStays) {
+    EngineFixture f(kSmallLexicon);
+    FontText seen;
+    f.host.onAsk = [&](const Question&) { seen = f.engine->SourceText; };
+    f.translate("  zorb    qux     wim  ");
+    EXPECT_EQ(seen, " zorb  qux   wim ");
 }
 
 TEST(EngineRun, TextEndingInBlankGetsNoSecondBlank) {
@@ -203,6 +213,28 @@ TEST(EngineRun, TermsFileExistsWhileARunIsSuspendedAndIsDeletedWhenItEnds) {
     f.engine->ankap0_DblClick();
     EXPECT_EQ(f.engine->state, RunState::Idle);
     EXPECT_FALSE(std::filesystem::exists(f.data() / "zhamanakavor"));
+}
+
+TEST(EngineRun, TermsFileLeftByAnEarlierProgramIsDeletedAtTheEndOfTheFirstRun) {
+    EngineFixture f(kSmallLexicon);
+    { std::ofstream(f.data() / "zhamanakavor") << "zorb"; }
+    f.translate("big");
+    EXPECT_FALSE(std::filesystem::exists(f.data() / "zhamanakavor"));
+}
+
+TEST(EngineRun, TermsFileIsDeletedAtTheEndOfEachRunThatMadeIt) {
+    EngineFixture f(kSmallLexicon);
+    f.host.setChecked(MenuItem::ITR, true);
+    bool existed = false;
+    for (const char* text : {"big", "zorb", "big", "quux big"}) {
+        f.engine->yieldBetweenWords = [&] {
+            existed = std::filesystem::exists(f.data() / "zhamanakavor") || existed;
+            return false;
+        };
+        f.translate(text);
+        EXPECT_FALSE(std::filesystem::exists(f.data() / "zhamanakavor")) << text;
+    }
+    EXPECT_TRUE(existed);
 }
 
 TEST(EngineRun, TermsFileListsTheUnknownWordsOfEachRunAlone) {

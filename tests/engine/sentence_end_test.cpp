@@ -2,7 +2,9 @@
 // left untranslated, the resets; and the dialect repair of the result pane.
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <utility>
 #include <vector>
 
@@ -86,6 +88,42 @@ TEST(SentenceEnd, AMissingPairFileChangesNothing) {
     e.OutputText = font("Տունը մեծ է:");
     e.poqr_uxxumner1();
     EXPECT_EQ(utf8(e.OutputText), "Տունը մեծ է:");
+}
+
+// A list whose time stamp lies well in the past, as a list that has settled on disk.
+void writeSettledList(const std::filesystem::path& path, const std::string& bytes, std::chrono::minutes age) {
+    writeFile(path, bytes);
+    std::filesystem::last_write_time(path, std::filesystem::file_time_type::clock::now() - age);
+}
+
+TEST(SentenceEnd, APairListWrittenAgainInPlaceIsReadAgain) {
+    EmissionFixture fx;
+    Engine& e = *fx.engine;
+    writeSettledList(fx.data() / "uxxuma", pairFile({{"ա", "բ"}, {"", ""}}, kPairWidth), std::chrono::minutes(60));
+    e.OutputText = font("ամառ");
+    e.poqr_uxxumner1();
+    EXPECT_EQ(utf8(e.OutputText), "բմբռ");
+    writeSettledList(fx.data() / "uxxuma", pairFile({{"ա", "գ"}, {"", ""}}, kPairWidth), std::chrono::minutes(30));
+    e.OutputText = font("ամառ");
+    e.poqr_uxxumner1();
+    EXPECT_EQ(utf8(e.OutputText), "գմգռ");
+}
+
+TEST(SentenceEnd, APairListDeletedAndMadeAgainWithTheSameSizeAndTimeIsReadAgain) {
+    EmissionFixture fx;
+    Engine& e = *fx.engine;
+    const auto path = fx.data() / "uxxuma";
+    writeSettledList(path, pairFile({{"ա", "բ"}, {"", ""}}, kPairWidth), std::chrono::minutes(60));
+    const auto settled = std::filesystem::last_write_time(path);
+    e.OutputText = font("ամառ");
+    e.poqr_uxxumner1();
+    EXPECT_EQ(utf8(e.OutputText), "բմբռ");
+    std::filesystem::remove(path);
+    writeFile(path, pairFile({{"ա", "գ"}, {"", ""}}, kPairWidth));
+    std::filesystem::last_write_time(path, settled);  // the stamp alone cannot tell the two apart
+    e.OutputText = font("ամառ");
+    e.poqr_uxxumner1();
+    EXPECT_EQ(utf8(e.OutputText), "գմգռ");
 }
 
 TEST(SentenceEnd, TheTitleTellsTheTimeInBothLanguages) {
