@@ -98,16 +98,20 @@ PairRepairs::PairRepairs(std::vector<std::pair<std::string, std::string>> pairs)
     endsFrom_.push_back(static_cast<std::uint32_t>(ends_.size()));
 }
 
-void PairRepairs::markOccurrences(std::string_view text, std::size_t from, std::size_t to,
+bool PairRepairs::markOccurrences(std::string_view text, std::size_t from, std::size_t to,
                                   std::vector<std::uint64_t>& occurs) const {
     const std::size_t stride = classes_ + 1;
     std::uint32_t s = 0;
+    bool any = false;
     for (std::size_t j = from; j < to; ++j) {
         s = next_[s * stride + byteClass_[static_cast<unsigned char>(text[j])]];
-        for (std::uint32_t t = endsFrom_[s] != endsFrom_[s + 1] ? s : outputLink_[s]; t != 0; t = outputLink_[t])
+        for (std::uint32_t t = endsFrom_[s] != endsFrom_[s + 1] ? s : outputLink_[s]; t != 0; t = outputLink_[t]) {
             for (std::uint32_t e = endsFrom_[t]; e < endsFrom_[t + 1]; ++e)
                 occurs[ends_[e] / kBitsPerWord] |= std::uint64_t{1} << (ends_[e] % kBitsPerWord);
+            any = true;
+        }
     }
+    return any;
 }
 
 bool PairRepairs::applyToPiece(std::string& piece, std::vector<std::uint64_t>& occurs) const {
@@ -219,7 +223,7 @@ private:
 void PairRepairs::apply(std::string& text) const {
     if (pairs_.empty() || text.empty()) return;
     std::vector<std::uint64_t> occurs((pairs_.size() + kBitsPerWord - 1) / kBitsPerWord);
-    std::vector<std::uint64_t> none(occurs.size());
+    bool marked = false;  // `occurs` holds marks of the piece before
     WriteBehind result(text);
     std::string piece;
     std::size_t start = 0;
@@ -229,9 +233,9 @@ void PairRepairs::apply(std::string& text) const {
         bool repaired = false;
         if (end > start) {
             // Most pieces hold no find: they are scanned in place and never copied.
-            std::fill(occurs.begin(), occurs.end(), 0);
-            markOccurrences(text, start, end, occurs);
-            if (occurs != none) {
+            if (marked) std::fill(occurs.begin(), occurs.end(), 0);
+            marked = markOccurrences(text, start, end, occurs);
+            if (marked) {
                 piece.assign(text, start, end - start);
                 repaired = applyToPiece(piece, occurs);
             }

@@ -29,8 +29,9 @@ public:
     void apply(std::string& text) const;
 
 private:
-    // Marks in `occurs` every pair whose find occurs wholly inside text[from, to).
-    void markOccurrences(std::string_view text, std::size_t from, std::size_t to,
+    // Marks in `occurs` every pair whose find occurs wholly inside text[from, to); true when it
+    // marked any.
+    bool markOccurrences(std::string_view text, std::size_t from, std::size_t to,
                          std::vector<std::uint64_t>& occurs) const;
     // Repairs one piece whose occurring pairs `occurs` marks; true when it changed.
     bool applyToPiece(std::string& piece, std::vector<std::uint64_t>& occurs) const;
