@@ -85,6 +85,17 @@ constexpr int classOf(const std::array<std::string_view, N>& classes, unsigned c
     return -1;
 }
 
+// The class of every byte, worked out once: the column is computed for every word looked up.
+template <std::size_t N>
+constexpr std::array<std::int8_t, 256> classTable(const std::array<std::string_view, N>& classes) {
+    std::array<std::int8_t, 256> table{};
+    for (int c = 0; c < 256; ++c) table[c] = static_cast<std::int8_t>(classOf(classes, static_cast<unsigned char>(c)));
+    return table;
+}
+
+constexpr std::array<std::int8_t, 256> kFirstClassOf = classTable(kFirstClasses);
+constexpr std::array<std::int8_t, 256> kSecondClassOf = classTable(kSecondClasses);
+
 }  // namespace
 
 int skizbaColumn(std::string_view word) {
@@ -92,8 +103,8 @@ int skizbaColumn(std::string_view word) {
     const auto c1 = static_cast<unsigned char>(word[0]);
     const auto c2 = static_cast<unsigned char>(word[1]);
     if (word.substr(0, 2) == "ու"_ft) return kArmenianOuColumn;
-    const int row = classOf(kFirstClasses, c1);
-    const int col = classOf(kSecondClasses, c2);
+    const int row = kFirstClassOf[c1];
+    const int col = kSecondClassOf[c2];
     if (row < 0 || col < 0) return kArmenianOddColumn;
     // Rows are about 23 columns long; a long row simply runs into the next one, which a hash
     // grid allows, and the last row ends at 533 below the two special columns.
@@ -223,23 +234,11 @@ double RecordFile::recordCountExact() const {
     return static_cast<double>(length_) / recordLength_;
 }
 
-std::int64_t RecordFile::recordCount() const {
-    return static_cast<std::int64_t>(length_ / static_cast<std::uint64_t>(recordLength_));
-}
-
 std::string RecordFile::read(std::int64_t n) const {
     if (n >= 1 && n <= recordCount()) return std::string(view(n));
     std::string rec(static_cast<std::size_t>(recordLength_), ' ');
     if (n == recordCount() + 1) rec.replace(0, tail_.size(), tail_);
     return rec;
-}
-
-std::string_view RecordFile::view(std::int64_t n) const {
-    if (n < 1 || n > recordCount()) return {};
-    const std::uint32_t slot = slots_[static_cast<std::size_t>(n - 1)];
-    if (slot == 0) return blank_;
-    return std::string_view(pool_).substr(static_cast<std::size_t>(slot - 1) * recordLength_,
-                                          static_cast<std::size_t>(recordLength_));
 }
 
 void RecordFile::setRecord(std::int64_t n, std::string_view record) {

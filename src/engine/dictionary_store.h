@@ -102,14 +102,22 @@ public:
     // File length / record length, a floating division as the walk's upper bound uses it.
     double recordCountExact() const;
     // The last whole record number.
-    std::int64_t recordCount() const;
+    std::int64_t recordCount() const {
+        return static_cast<std::int64_t>(length_ / static_cast<std::uint64_t>(recordLength_));
+    }
     std::uint64_t byteLength() const { return length_; }
 
     // Record n (1-based), blank-padded past the end of the file.
     std::string read(std::int64_t n) const;
     // Record n (1-based) in place, without a copy; empty past the last whole record. Valid until
     // the next write.
-    std::string_view view(std::int64_t n) const;
+    std::string_view view(std::int64_t n) const {
+        if (n < 1 || n > recordCount()) return {};
+        const std::uint32_t slot = slots_[static_cast<std::size_t>(n - 1)];
+        if (slot == 0) return blank_;
+        return std::string_view(pool_).substr(static_cast<std::size_t>(slot - 1) * recordLength_,
+                                              static_cast<std::size_t>(recordLength_));
+    }
     // True when whole record n is known to hold blanks only (false tells nothing). Such a record
     // is no word and no column's end, so a walk over every record may skip it.
     bool knownBlank(std::int64_t n) const { return slots_[static_cast<std::size_t>(n - 1)] == 0; }
