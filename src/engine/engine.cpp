@@ -2,6 +2,7 @@
 #include "engine/engine.h"
 
 #include <array>
+#include <functional>
 #include <cstdint>
 #include <system_error>
 
@@ -20,8 +21,14 @@ constexpr std::size_t kResultRoomPerSourceByte = 2;
 // Replaces each double blank by one blank in a single left-to-right pass, so that three blanks
 // become two.
 // The text between double blanks is copied whole.
-FontText foldDoubleBlanks(std::string_view text) {
-    FontText out;
+// `out` keeps its room from the run before.
+void foldDoubleBlanks(std::string_view text, FontText& out) {
+    const std::less<const char*> before;
+    if (!before(text.data(), out.data()) && before(text.data(), out.data() + out.capacity())) {
+        foldDoubleBlanks(FontText(text), out);  // a text inside `out` itself is read from a copy
+        return;
+    }
+    out.clear();
     out.reserve(text.size() + 1);
     std::size_t from = 0;
     for (std::size_t pair = text.find("  "); pair != std::string_view::npos; pair = text.find("  ", from)) {
@@ -29,7 +36,6 @@ FontText foldDoubleBlanks(std::string_view text) {
         from = pair + 2;
     }
     out.append(text.substr(from));
-    return out;
 }
 
 constexpr bool isLatinLetter(unsigned char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
@@ -75,7 +81,7 @@ void Engine::Text3_Change(const FontText& text) {
     termsFilePending_ = true;
 
     // The scanner needs a delimiter after the last word.
-    SourceText = foldDoubleBlanks(text);
+    foldDoubleBlanks(text, SourceText);
     if (SourceText.empty() || SourceText.back() != ' ') SourceText += ' ';
 
     EnglishCount = 1;

@@ -27,8 +27,14 @@ constexpr auto kStampSettle = std::chrono::seconds(2);  // well past any file sy
 // freed memory amid its heap, and the window's copy of the result would take as much again.
 constexpr std::size_t kSourceReturnedToTheSystem = 4u << 20;
 
-// Releases the source's memory; a long one's pages go back to the system.
+// Empties the source. A short one keeps its room for the next run (a run per line makes many);
+// a long one's memory is released, and its pages go back to the system.
 void releaseSource(FontText& source) {
+    constexpr std::size_t kRoomKept = 64 * 1024;  // bytes of a source whose room the next run reuses
+    if (source.capacity() <= kRoomKept) {
+        source.clear();
+        return;
+    }
     const bool longSource = source.size() >= kSourceReturnedToTheSystem;
     FontText().swap(source);
 #if defined(__GLIBC__)
