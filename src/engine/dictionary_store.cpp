@@ -122,18 +122,10 @@ bool hasArmenianLetter(std::string_view word) {
 
 // --- RecordFile -------------------------------------------------------------------------------
 
-namespace {
-// A file descriptor closed when it goes out of scope.
-struct Descriptor {
-    int fd = -1;
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    explicit Descriptor(int f) : fd(f) {}
-    ~Descriptor() {
-        if (fd >= 0) ::close(fd);
-    }
-};
-}  // namespace
+void OwnedFd::reset() {
+    if (fd_ >= 0) ::close(fd_);
+    fd_ = -1;
+}
 
 std::optional<FileStamp> FileStamp::of(const std::filesystem::path& path) {
     struct stat st {};
@@ -195,17 +187,19 @@ void RecordFile::load(std::string_view bytes) {
 
 bool RecordFile::open(const std::filesystem::path& path, int recordLength) {
     path_ = path;
+    writable_.reset();
     recordLength_ = recordLength;
     blank_.assign(static_cast<std::size_t>(recordLength), ' ');
     load({});
     open_ = false;
     // A missing file is made empty; the run's list of unknown words is made this way each run,
-    // so the file is opened once, and read with one call per block.
-    Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    if (file.fd < 0 && errno == ENOENT) file.fd = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
-    if (file.fd < 0) return false;
+    // so the file is opened once, read with one call per block, and kept open for the writes.
+    OwnedFd file(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666));
+    const bool writable = file.get() >= 0;
+    if (!writable) file = OwnedFd(::open(path.c_str(), O_RDONLY | O_CLOEXEC));  // read-only data
+    if (file.get() < 0) return false;
     struct stat st {};
-    if (::fstat(file.fd, &st) == 0 && st.st_size > 0)
+    if (::fstat(file.get(), &st) == 0 && st.st_size > 0)
         slots_.reserve(static_cast<std::size_t>(st.st_size) / static_cast<std::size_t>(recordLength));
     // A small file is read in one call; a large one through the buffer, whole records at a time.
     std::string chunk(std::min<std::size_t>(kOpeningChunkRecords * static_cast<std::size_t>(recordLength),
@@ -213,7 +207,7 @@ bool RecordFile::open(const std::filesystem::path& path, int recordLength) {
                       ' ');
     std::size_t filled = 0;
     for (;;) {
-        const ssize_t n = chunk.empty() ? 0 : ::read(file.fd, chunk.data() + filled, chunk.size() - filled);
+        const ssize_t n = chunk.empty() ? 0 : ::read(file.get(), chunk.data() + filled, chunk.size() - filled);
         if (n < 0 && errno == EINTR) continue;
         if (n > 0) filled += static_cast<std::size_t>(n);
         if (n > 0 && filled < chunk.size()) continue;
@@ -226,6 +220,7 @@ bool RecordFile::open(const std::filesystem::path& path, int recordLength) {
     }
     tail_.assign(chunk, 0, filled);
     length_ += tail_.size();
+    if (writable) writable_ = std::move(file);
     open_ = true;
     return true;
 }
@@ -375,11 +370,13 @@ std::int64_t RecordFile::firstNullInColumn(int stride, int column) const {
 }
 
 bool RecordFile::flushRange(std::uint64_t from, std::uint64_t to) {
-    const Descriptor file(::open(path_.c_str(), O_WRONLY | O_CLOEXEC));
-    if (file.fd < 0) return false;
+    // A file opened read-only is tried again by its name, in case it may be written now.
+    const OwnedFd byName(writable_.get() < 0 ? ::open(path_.c_str(), O_WRONLY | O_CLOEXEC) : -1);
+    const int fd = writable_.get() >= 0 ? writable_.get() : byName.get();
+    if (fd < 0) return false;
     const std::string bytes = bytesOf(from, to);
     for (std::size_t done = 0; done < bytes.size();) {
-        const ssize_t n = ::pwrite(file.fd, bytes.data() + done, bytes.size() - done, static_cast<off_t>(from + done));
+        const ssize_t n = ::pwrite(fd, bytes.data() + done, bytes.size() - done, static_cast<off_t>(from + done));
         if (n < 0 && errno == EINTR) continue;
         if (n <= 0) return false;
         done += static_cast<std::size_t>(n);

@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace vorlexa {
@@ -79,6 +80,30 @@ struct FileStamp {
     std::int64_t modifiedNs = 0;  // nanoseconds since the epoch
     bool operator==(const FileStamp&) const = default;
     static std::optional<FileStamp> of(const std::filesystem::path& path);
+};
+
+// A file descriptor owned: closed when dropped or replaced, moved but never copied.
+class OwnedFd {
+public:
+    OwnedFd() = default;
+    explicit OwnedFd(int fd) : fd_(fd) {}
+    OwnedFd(OwnedFd&& other) noexcept : fd_(std::exchange(other.fd_, -1)) {}
+    OwnedFd& operator=(OwnedFd&& other) noexcept {
+        if (this != &other) {
+            reset();
+            fd_ = std::exchange(other.fd_, -1);
+        }
+        return *this;
+    }
+    OwnedFd(const OwnedFd&) = delete;
+    OwnedFd& operator=(const OwnedFd&) = delete;
+    ~OwnedFd() { reset(); }
+
+    int get() const { return fd_; }
+    void reset();
+
+private:
+    int fd_ = -1;
 };
 
 // A random-access file of fixed-length records. Every write goes through to disk before the call
@@ -164,6 +189,7 @@ private:
     void dropIndex() const;
 
     std::filesystem::path path_;
+    OwnedFd writable_;  // the file held open for writing since its opening, when it may be written
     int recordLength_ = kRecordLength;
     std::uint64_t length_ = 0;          // the file's length in bytes
     std::vector<std::uint32_t> slots_;  // per whole record: 0 when blank, else 1 + its place in pool_

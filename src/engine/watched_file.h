@@ -14,18 +14,13 @@ class WatchedFile {
 public:
     WatchedFile() = default;
     explicit WatchedFile(const std::filesystem::path& path);
-    WatchedFile(WatchedFile&& other) noexcept;
-    WatchedFile& operator=(WatchedFile&& other) noexcept;
-    WatchedFile(const WatchedFile&) = delete;
-    WatchedFile& operator=(const WatchedFile&) = delete;
-    ~WatchedFile();
 
     // The stamp of the file held; none when no file is held or its last name was removed (the
     // file was deleted, or another took its name), so that the name is read again.
     std::optional<FileStamp> stamp() const;
 
 private:
-    int fd_ = -1;
+    OwnedFd file_;
 };
 
 }  // namespace vorlexa
