@@ -47,8 +47,8 @@ constexpr auto kCountedVowels = [] {
     std::array<bool, 256> in{};
     constexpr std::string_view kVowels = "աեէիոըօև"_ft;
     for (int c = 0; c < 256; ++c)
-        in[static_cast<std::size_t>(c)] =
-            kVowels.find(static_cast<char>(font::toSmall(static_cast<unsigned char>(c)))) != std::string_view::npos;
+        for (const char vowel : kVowels)
+            if (vowel == static_cast<char>(font::toSmall(static_cast<unsigned char>(c)))) in[static_cast<std::size_t>(c)] = true;
     return in;
 }();
 bool isCountedVowel(unsigned char c) { return kCountedVowels[c]; }
