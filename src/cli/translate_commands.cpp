@@ -8,7 +8,6 @@
 #include <iomanip>
 #include <iostream>
 #include <memory>
-#include <sstream>
 #include <string_view>
 
 #include "cli/terminal_host.h"
@@ -102,6 +101,7 @@ void writeOutput(std::ostream& out, std::string_view font) {
         out << toUtf8(block);
     }
 }
+
 class Session {
 public:
     Session(const std::filesystem::path& folder, const TranslateArgs& args) : args_(args) {
