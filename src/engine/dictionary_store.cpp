@@ -127,9 +127,9 @@ void OwnedFd::reset() {
     fd_ = -1;
 }
 
-std::optional<FileStamp> FileStamp::of(const std::filesystem::path& path) {
+std::optional<FileStamp> FileStamp::ofOpen(int fd) {
     struct stat st {};
-    if (::stat(path.c_str(), &st) != 0) return std::nullopt;
+    if (fd < 0 || ::fstat(fd, &st) != 0 || st.st_nlink == 0) return std::nullopt;
     constexpr std::int64_t kNsPerSecond = 1'000'000'000;
     return FileStamp{static_cast<std::uint64_t>(st.st_size),
                      static_cast<std::int64_t>(st.st_mtim.tv_sec) * kNsPerSecond + st.st_mtim.tv_nsec};

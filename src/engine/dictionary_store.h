@@ -79,7 +79,9 @@ struct FileStamp {
     std::uint64_t size = 0;
     std::int64_t modifiedNs = 0;  // nanoseconds since the epoch
     bool operator==(const FileStamp&) const = default;
-    static std::optional<FileStamp> of(const std::filesystem::path& path);
+    // The stamp of an open file; none when it cannot be read or the file has no name left (it was
+    // deleted, or another took its name).
+    static std::optional<FileStamp> ofOpen(int fd);
 };
 
 // A file descriptor owned: closed when dropped or replaced, moved but never copied.
