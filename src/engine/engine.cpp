@@ -63,9 +63,10 @@ void Engine::openTermsFile() {
     TermsFile = RecordFile();
     TermsFile.open(dataFolder / kTermsFileName, kTermRecordLength);
     termsFileMayStand_ = true;
-    termsIndex_.clear();
-    for (std::int64_t n = 1; n < TermCount; ++n)
-        termsIndex_.insert(FontText(trimBlanks(TermsFile.read(n))));
+    // The terms met before the file stood go to their records first.
+    if (TermsFile.isOpen())
+        for (const auto& [record, word] : heldTerms_) TermsFile.write(record, word);
+    heldTerms_.clear();
 }
 
 void Engine::ensureTermsFile() {
@@ -79,6 +80,8 @@ void Engine::Text3_Change(const FontText& text) {
     QuoteCount = 0;
     QuestionCount = 0;
     termsFilePending_ = true;
+    unknownWordMet_ = false;
+    heldTerms_.clear();
 
     // The scanner needs a delimiter after the last word.
     foldDoubleBlanks(text, SourceText);

@@ -278,10 +278,14 @@ public:
 
 private:
     void openTermsFile();
-    // The TermsFile is made when a run first needs it: at its first unknown word, for the list
-    // of untranslated terms, or when the run hands the window back before it ends.
+    // The TermsFile is made when a run first needs it: when the run hands control out after an
+    // unknown word (a question, a pause between words, a wait for a panel) or before it ends, and
+    // for the list of untranslated terms. Until then its terms are held here, so a run that goes
+    // through unattended makes and deletes no file.
     void ensureTermsFile();
     bool termsFilePending_ = false;  // a run has begun and its TermsFile is not open yet
+    bool unknownWordMet_ = false;    // the run has reported an unknown word
+    std::vector<std::pair<std::int64_t, FontText>> heldTerms_;  // record number, word
     // The data folder is one program's: the TermsFile stands only when this engine made it, or
     // when a program before it left it behind, so the end of a run deletes it only then.
     bool termsFileMayStand_ = true;

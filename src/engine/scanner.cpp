@@ -113,10 +113,14 @@ void Engine::ankap0_DblClick() {
             state = RunState::Waiting;
             return;
         }
-        if (yieldBetweenWords && CurrentWord.empty() && yieldBetweenWords()) {
-            ensureTermsFile();
-            state = RunState::Suspended;
-            return;
+        if (yieldBetweenWords && CurrentWord.empty()) {
+            // The window has the control between words: the run's terms stand in their file.
+            if (unknownWordMet_) ensureTermsFile();
+            if (yieldBetweenWords()) {
+                ensureTermsFile();
+                state = RunState::Suspended;
+                return;
+            }
         }
     }
     TransEndProcedure();

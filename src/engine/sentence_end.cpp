@@ -163,12 +163,14 @@ void Engine::TransEndProcedure() {
             host.setChecked(MenuItem::SUT, false);
         }
     } else {
+        if (unknownWordMet_) ensureTermsFile();  // the message box hands control out
         host.notify({{"Spell-Check is completed.", FontText("Սխալների ուղղումն ավարտվեց:"_ft)},
                      {"Spellchecker", FontText("Սխալների ուղղում"_ft)}});
         host.setResultText(SourceText);
     }
     TermsFile = RecordFile();
     termsFilePending_ = false;
+    heldTerms_.clear();
     if (termsFileMayStand_) {
         std::error_code ignored;
         std::filesystem::remove(dataFolder / kTermsFileName, ignored);

@@ -181,7 +181,7 @@ bool Engine::retryUnknownWord() {
 }
 
 void Engine::reportUnknownWord() {
-    ensureTermsFile();
+    unknownWordMet_ = true;
     // An unknown word stands in the text, and in the questions, with the case it was typed in:
     // a name keeps its capital.
     RawWord = typedSpelling(SourceText, ScanPos, RawWord);
@@ -217,6 +217,7 @@ void Engine::reportUnknownWord() {
             refuseUnknownWordQuestions();
         } else {
             host.setResultText(OutputText);
+            ensureTermsFile();
             AnswerCode = host.ask(firstUnknownQuestion());
             if (AnswerCode == kAnswerYes) {
                 FirstUnknownAnswer = kAnswerYes;
@@ -230,6 +231,7 @@ void Engine::reportUnknownWord() {
     }
 
     if (askEachWord) {
+        ensureTermsFile();
         AnswerCode = host.ask(perWordQuestion(RawWord, SpellMode == 1));
         if (AnswerCode == kAnswerYes) {
             // The add-word panel opens and the scanner leaves at this word's end; the run goes
@@ -252,7 +254,11 @@ void Engine::reportUnknownWord() {
     PendingEnding.clear();
     ArticleEnding.clear();
     VerbFormMark.clear();
-    if (TermsFile.isOpen()) TermsFile.write(TermCount, RawWord);
+    if (TermsFile.isOpen()) {
+        TermsFile.write(TermCount, RawWord);
+    } else if (termsFilePending_) {
+        heldTerms_.emplace_back(TermCount, RawWord);
+    }
     termsIndex_.insert(FontText(trimBlanks(mid(RawWord, 1, kTermRecordLength))));
     ++TermCount;
     ++stats.termsWritten;
@@ -273,6 +279,7 @@ void Engine::ArTr() {
     q.title = {"Warning", "Warning"};
     q.buttons = Buttons::YesNo;
     q.subject = RawWord;
+    ensureTermsFile();
     AnswerCode = host.ask(q);
     if (AnswerCode == kAnswerYes) CTYD();
 }

@@ -1,6 +1,8 @@
 // The run start: counts, the Unicode check, the direction guess and its titles, the blank fold,
 // the progress bar, the TermsFile and the resets.
 #include <gtest/gtest.h>
+#include <sys/inotify.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -235,6 +237,38 @@ TEST(EngineRun, TermsFileIsDeletedAtTheEndOfEachRunThatMadeIt) {
         EXPECT_FALSE(std::filesystem::exists(f.data() / "zhamanakavor")) << text;
     }
     EXPECT_TRUE(existed);
+}
+
+TEST(EngineRun, ARunThatHandsNoControlOutMakesNoTermsFile) {
+    EngineFixture f(kSmallLexicon);
+    f.host.setChecked(MenuItem::ITR, true);
+    f.translate("big");  // the first run opens (and so makes) the pair list
+    // Every name made in the data folder during the run is told by the kernel.
+    const int watch = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    ASSERT_GE(watch, 0);
+    ASSERT_GE(::inotify_add_watch(watch, f.data().c_str(), IN_CREATE), 0);
+    EXPECT_EQ(f.translate("zorb big quux zorb"), "zorb մեծ quux zorb ");
+    alignas(inotify_event) char events[4096];
+    const ssize_t got = ::read(watch, events, sizeof events);
+    ::close(watch);
+    EXPECT_EQ(got, -1) << "made in the data folder: "
+                       << (got > 0 ? reinterpret_cast<inotify_event*>(events)->name : "");
+    EXPECT_EQ(f.engine->stats.termsWritten, 2);
+    EXPECT_FALSE(std::filesystem::exists(f.data() / "zhamanakavor"));
+}
+
+TEST(EngineRun, TermsMetBeforeTheRunHandsControlOutStandInTheirFileInOrder) {
+    EngineFixture f(kSmallLexicon);
+    f.host.setChecked(MenuItem::ITR, true);
+    std::string seen;
+    f.engine->yieldBetweenWords = [&] {
+        std::ifstream in(f.data() / "zhamanakavor", std::ios::binary);
+        seen.assign(std::istreambuf_iterator<char>(in), {});
+        return false;
+    };
+    f.translate("zorb quux big");
+    EXPECT_EQ(seen, std::string("zorb") + std::string(16, ' ') + "quux" + std::string(16, ' '));
+    EXPECT_FALSE(std::filesystem::exists(f.data() / "zhamanakavor"));
 }
 
 TEST(EngineRun, TermsFileListsTheUnknownWordsOfEachRunAlone) {
