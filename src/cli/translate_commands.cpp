@@ -113,6 +113,9 @@ public:
             else printError("--ask: no terminal to ask on; unknown words are left untranslated");
         }
         host_ = terminal_ ? static_cast<CliHost*>(terminal_.get()) : &quietHost_;
+        // With no one to answer a question or watch a progress bar, the tool runs as the instant
+        // mode does: it leaves unknown words in the text as a No to every question would.
+        if (!terminal_) host_->setChecked(MenuItem::ITR, true);
         engine_ = std::make_unique<Engine>(store_, folder, *host_);
     }
 

@@ -1,4 +1,6 @@
 #include <gtest/gtest.h>
+#include <sys/inotify.h>
+#include <unistd.h>
 
 #include <cstdio>
 
@@ -54,6 +56,23 @@ TEST_F(TranslateCli, LinesAreRunsOfTheirOwn) {
     const auto r = run("translate --lines", "zorb big\nred.\n\nbig");
     EXPECT_EQ(r.exitCode, 0) << r.err;
     EXPECT_EQ(r.out, "zorb մեծ\nկարմիր:\n\nմեծ\n");
+}
+
+TEST_F(TranslateCli, LinesOfUnknownWordsMakeNoFileInTheDataFolder) {
+    // The first run opens (and so makes) the pair list.
+    ASSERT_EQ(run("translate", "big").exitCode, 0);
+    // Every name made in the data folder while the tool runs is told by the kernel.
+    const int watch = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    ASSERT_GE(watch, 0);
+    ASSERT_GE(::inotify_add_watch(watch, (dir / "data").c_str(), IN_CREATE), 0);
+    const auto r = run("translate --lines", "zorb big\nqux zorb\nred qux.\n");
+    alignas(inotify_event) char events[4096];
+    const ssize_t got = ::read(watch, events, sizeof events);
+    ::close(watch);
+    EXPECT_EQ(r.exitCode, 0) << r.err;
+    EXPECT_EQ(r.out, "zorb մեծ\nqux zorb\nկարմիր qux:\n");
+    EXPECT_EQ(got, -1) << "made in the data folder: "
+                       << (got > 0 ? reinterpret_cast<inotify_event*>(events)->name : "");
 }
 
 TEST_F(TranslateCli, ListUnknownAppendsTheTermsOfTheRun) {
