@@ -1,6 +1,7 @@
 // The translator's speed over the shipped dictionaries, in one table: words per second of CPU in
 // each direction for a text and for ten times that text (the time must stay linear), one run per
-// line over 10,000 lines, the start-up, and the peak memory of a run over a 10 MB text.
+// line over 10,000 lines (as translate --lines runs them, and as the window's runs are, each
+// looking at the pair lists' files), the start-up, and the peak memory of a run over a 10 MB text.
 //
 // The texts are generated: sentences of the golden tables mixed with sentences of dictionary
 // keys, drawn with a fixed seed so that every run measures the same text.
@@ -197,7 +198,9 @@ BENCHMARK(BM_WholeText)
     ->Args({1, 10})
     ->Unit(benchmark::kMillisecond);
 
-// One run per line, as translate --lines does it; the rate compares with the whole text's.
+// One run per line; the rate compares with the whole text's. Arguments: direction, and whether
+// the runs hold the pair lists as translate --lines does (1), or look at their files at every
+// run as the window's runs do (0).
 void BM_RunPerLine(benchmark::State& state) {
     std::vector<FontText> lines;
     std::int64_t words = 0;
@@ -213,6 +216,7 @@ void BM_RunPerLine(benchmark::State& state) {
         words += countWords(lines.back());
     }
     Translator t;
+    t.engine->holdPairLists(state.range(1) == 1);
     for (const auto& line : lines) t.engine->Text3_Change(line);
     for (auto _ : state) {
         for (const auto& line : lines) {
@@ -223,7 +227,13 @@ void BM_RunPerLine(benchmark::State& state) {
     state.counters["lines"] = kLineCount;
     setWordRate(state, words);
 }
-BENCHMARK(BM_RunPerLine)->ArgNames({"hy"})->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_RunPerLine)
+    ->ArgNames({"hy", "held"})
+    ->Args({0, 1})
+    ->Args({1, 1})
+    ->Args({0, 0})
+    ->Args({1, 0})
+    ->Unit(benchmark::kMillisecond);
 
 // Start-up as the main window does it: open the dictionaries, build the derived files, translate
 // one word; the exit deletes the derived files again.

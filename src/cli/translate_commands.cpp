@@ -117,6 +117,9 @@ public:
         // mode does: it leaves unknown words in the text as a No to every question would.
         if (!terminal_) host_->setChecked(MenuItem::ITR, true);
         engine_ = std::make_unique<Engine>(store_, folder, *host_);
+        // One command is one batch: its runs (a file's lines, the files in turn) take the pair
+        // lists as they stand when it begins.
+        engine_->holdPairLists(true);
     }
 
     Engine& engine() { return *engine_; }

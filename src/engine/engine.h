@@ -88,6 +88,11 @@ public:
     // Asked between two words when set: true makes the scanner leave with the run Suspended,
     // so that a window can take its events and call ankap0_DblClick again to go on.
     std::function<bool()> yieldBetweenWords;
+    // Held, the runs read each pair list once, at the first run that needs it, and keep it as it
+    // stood then: a batch of runs over one input (the lines of a file) takes the lists as one run
+    // over the whole text would. Released, the next run sees any change of a list's file, as
+    // every run of the window does.
+    void holdPairLists(bool held);
     // Continues a waiting run with the answer reset, ScanPos untouched.
     void resumeRun();
     // The save path of the add-word panel: stores the pair (and its reverse entry) in the
@@ -305,9 +310,12 @@ private:
         FileStamp stamp;
         WatchedFile file;  // the file read, held open to tell a change
         PairRepairs repairs;  // find, replace; empty finds left out
+        std::uint64_t heldIn = 0;  // the holding of the lists that has read it, 0 for none
     };
     const PairList* pairList(std::string_view name);
     std::map<std::string, PairList, std::less<>> pairLists_;
+    bool pairListsHeld_ = false;
+    std::uint64_t pairListHolding_ = 0;  // counts the holdings begun
 
     int lastProgress_ = -1;
     bool guardTurn(std::int64_t scanPosBefore);  // false when the guard has stopped the run

@@ -76,7 +76,12 @@ const Engine::PairList* Engine::pairList(std::string_view name) {
     auto entry = pairLists_.find(name);
     if (entry == pairLists_.end()) entry = pairLists_.emplace(std::string(name), PairList()).first;
     PairList& list = entry->second;
-    if (list.loaded && list.file.stamp() == list.stamp) return &list;
+    if (pairListsHeld_ && list.heldIn == pairListHolding_) return &list;
+    const std::uint64_t heldIn = pairListsHeld_ ? pairListHolding_ : 0;
+    if (list.loaded && list.file.stamp() == list.stamp) {
+        list.heldIn = heldIn;
+        return &list;
+    }
     const std::filesystem::path path = dataFolder / name;
 
     list = PairList();
@@ -100,7 +105,13 @@ const Engine::PairList* Engine::pairList(std::string_view name) {
     const auto now = std::chrono::duration_cast<std::chrono::nanoseconds>(
                          std::chrono::system_clock::now().time_since_epoch()).count();
     list.loaded = stamp && now - list.stamp.modifiedNs > std::chrono::nanoseconds(kStampSettle).count();
+    list.heldIn = heldIn;
     return &list;
+}
+
+void Engine::holdPairLists(bool held) {
+    if (held && !pairListsHeld_) ++pairListHolding_;
+    pairListsHeld_ = held;
 }
 
 void Engine::poqr_uxxumner1() {

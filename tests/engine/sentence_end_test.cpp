@@ -126,6 +126,47 @@ TEST(SentenceEnd, APairListDeletedAndMadeAgainWithTheSameSizeAndTimeIsReadAgain)
     EXPECT_EQ(utf8(e.OutputText), "գմգռ");
 }
 
+TEST(SentenceEnd, HeldPairListsAreReadOnceAndTheRunAfterTheirReleaseSeesAChange) {
+    EmissionFixture fx;
+    Engine& e = *fx.engine;
+    const auto path = fx.data() / "uxxuma";
+    writeSettledList(path, pairFile({{"ա", "բ"}, {"", ""}}, kPairWidth), std::chrono::minutes(60));
+    e.holdPairLists(true);
+    e.OutputText = font("ամառ");
+    e.poqr_uxxumner1();
+    EXPECT_EQ(utf8(e.OutputText), "բմբռ");
+    writeSettledList(path, pairFile({{"ա", "գ"}, {"", ""}}, kPairWidth), std::chrono::minutes(30));
+    e.OutputText = font("ամառ");
+    e.poqr_uxxumner1();
+    EXPECT_EQ(utf8(e.OutputText), "բմբռ");  // the list as it stood at the first run
+    e.holdPairLists(false);
+    e.OutputText = font("ամառ");
+    e.poqr_uxxumner1();
+    EXPECT_EQ(utf8(e.OutputText), "գմգռ");
+    // A new holding reads the list again, though nothing changed since it was last read.
+    writeSettledList(path, pairFile({{"ա", "դ"}, {"", ""}}, kPairWidth), std::chrono::minutes(20));
+    e.holdPairLists(true);
+    e.OutputText = font("ամառ");
+    e.poqr_uxxumner1();
+    EXPECT_EQ(utf8(e.OutputText), "դմդռ");
+}
+
+TEST(SentenceEnd, AListFirstReadWhileHeldIsKeptForTheRestOfTheHolding) {
+    EmissionFixture fx;
+    Engine& e = *fx.engine;
+    const auto path = fx.data() / "uxxuma";
+    e.holdPairLists(true);
+    // Written just now: out of a holding, a list whose stamp has not settled is read at every run.
+    writeFile(path, pairFile({{"ա", "բ"}, {"", ""}}, kPairWidth));
+    e.OutputText = font("ամառ");
+    e.poqr_uxxumner1();
+    EXPECT_EQ(utf8(e.OutputText), "բմբռ");
+    writeFile(path, pairFile({{"ա", "գ"}, {"", ""}}, kPairWidth));
+    e.OutputText = font("ամառ");
+    e.poqr_uxxumner1();
+    EXPECT_EQ(utf8(e.OutputText), "բմբռ");
+}
+
 TEST(SentenceEnd, TheTitleTellsTheTimeInBothLanguages) {
     EmissionFixture fx;
     fx.translate("House is big.");
