@@ -283,10 +283,10 @@ public:
 
 private:
     void openTermsFile();
-    // The TermsFile is made when a run first needs it: when the run hands control out after an
-    // unknown word (a question, a pause between words, a wait for a panel) or before it ends, and
-    // for the list of untranslated terms. Until then its terms are held here, so a run that goes
-    // through unattended makes and deletes no file.
+    // The TermsFile is made when a run first needs it: when the run hands control out before its
+    // end (a question about an unknown word, a pause between words after one, a wait for a panel,
+    // a suspension) and for the list of untranslated terms. Until then its terms are held here,
+    // so a run that goes through unattended makes and deletes no file.
     void ensureTermsFile();
     bool termsFilePending_ = false;  // a run has begun and its TermsFile is not open yet
     bool unknownWordMet_ = false;    // the run has reported an unknown word

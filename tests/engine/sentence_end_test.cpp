@@ -143,7 +143,7 @@ TEST(SentenceEnd, HeldPairListsAreReadOnceAndTheRunAfterTheirReleaseSeesAChange)
     e.OutputText = font("ամառ");
     e.poqr_uxxumner1();
     EXPECT_EQ(utf8(e.OutputText), "գմգռ");
-    // A new holding reads the list again, though nothing changed since it was last read.
+    // A new holding looks at the file again.
     writeSettledList(path, pairFile({{"ա", "դ"}, {"", ""}}, kPairWidth), std::chrono::minutes(20));
     e.holdPairLists(true);
     e.OutputText = font("ամառ");
