@@ -96,17 +96,20 @@ void writeSettledList(const std::filesystem::path& path, const std::string& byte
     std::filesystem::last_write_time(path, std::filesystem::file_time_type::clock::now() - age);
 }
 
+// The pair repair of one run's result, as UTF-8.
+std::string repaired(Engine& e, const char* result) {
+    e.OutputText = font(result);
+    e.poqr_uxxumner1();
+    return utf8(e.OutputText);
+}
+
 TEST(SentenceEnd, APairListWrittenAgainInPlaceIsReadAgain) {
     EmissionFixture fx;
     Engine& e = *fx.engine;
     writeSettledList(fx.data() / "uxxuma", pairFile({{"ա", "բ"}, {"", ""}}, kPairWidth), std::chrono::minutes(60));
-    e.OutputText = font("ամառ");
-    e.poqr_uxxumner1();
-    EXPECT_EQ(utf8(e.OutputText), "բմբռ");
+    EXPECT_EQ(repaired(e, "ամառ"), "բմբռ");
     writeSettledList(fx.data() / "uxxuma", pairFile({{"ա", "գ"}, {"", ""}}, kPairWidth), std::chrono::minutes(30));
-    e.OutputText = font("ամառ");
-    e.poqr_uxxumner1();
-    EXPECT_EQ(utf8(e.OutputText), "գմգռ");
+    EXPECT_EQ(repaired(e, "ամառ"), "գմգռ");
 }
 
 TEST(SentenceEnd, APairListDeletedAndMadeAgainWithTheSameSizeAndTimeIsReadAgain) {
@@ -115,15 +118,11 @@ TEST(SentenceEnd, APairListDeletedAndMadeAgainWithTheSameSizeAndTimeIsReadAgain)
     const auto path = fx.data() / "uxxuma";
     writeSettledList(path, pairFile({{"ա", "բ"}, {"", ""}}, kPairWidth), std::chrono::minutes(60));
     const auto settled = std::filesystem::last_write_time(path);
-    e.OutputText = font("ամառ");
-    e.poqr_uxxumner1();
-    EXPECT_EQ(utf8(e.OutputText), "բմբռ");
+    EXPECT_EQ(repaired(e, "ամառ"), "բմբռ");
     std::filesystem::remove(path);
     writeFile(path, pairFile({{"ա", "գ"}, {"", ""}}, kPairWidth));
     std::filesystem::last_write_time(path, settled);  // the stamp alone cannot tell the two apart
-    e.OutputText = font("ամառ");
-    e.poqr_uxxumner1();
-    EXPECT_EQ(utf8(e.OutputText), "գմգռ");
+    EXPECT_EQ(repaired(e, "ամառ"), "գմգռ");
 }
 
 TEST(SentenceEnd, HeldPairListsAreReadOnceAndTheRunAfterTheirReleaseSeesAChange) {
@@ -132,23 +131,15 @@ TEST(SentenceEnd, HeldPairListsAreReadOnceAndTheRunAfterTheirReleaseSeesAChange)
     const auto path = fx.data() / "uxxuma";
     writeSettledList(path, pairFile({{"ա", "բ"}, {"", ""}}, kPairWidth), std::chrono::minutes(60));
     e.holdPairLists(true);
-    e.OutputText = font("ամառ");
-    e.poqr_uxxumner1();
-    EXPECT_EQ(utf8(e.OutputText), "բմբռ");
+    EXPECT_EQ(repaired(e, "ամառ"), "բմբռ");
     writeSettledList(path, pairFile({{"ա", "գ"}, {"", ""}}, kPairWidth), std::chrono::minutes(30));
-    e.OutputText = font("ամառ");
-    e.poqr_uxxumner1();
-    EXPECT_EQ(utf8(e.OutputText), "բմբռ");  // the list as it stood at the first run
+    EXPECT_EQ(repaired(e, "ամառ"), "բմբռ");  // the list as it stood at the first run
     e.holdPairLists(false);
-    e.OutputText = font("ամառ");
-    e.poqr_uxxumner1();
-    EXPECT_EQ(utf8(e.OutputText), "գմգռ");
+    EXPECT_EQ(repaired(e, "ամառ"), "գմգռ");
     // A new holding looks at the file again.
     writeSettledList(path, pairFile({{"ա", "դ"}, {"", ""}}, kPairWidth), std::chrono::minutes(20));
     e.holdPairLists(true);
-    e.OutputText = font("ամառ");
-    e.poqr_uxxumner1();
-    EXPECT_EQ(utf8(e.OutputText), "դմդռ");
+    EXPECT_EQ(repaired(e, "ամառ"), "դմդռ");
 }
 
 TEST(SentenceEnd, AListFirstReadWhileHeldIsKeptForTheRestOfTheHolding) {
@@ -158,13 +149,9 @@ TEST(SentenceEnd, AListFirstReadWhileHeldIsKeptForTheRestOfTheHolding) {
     e.holdPairLists(true);
     // Written just now: out of a holding, a list whose stamp has not settled is read at every run.
     writeFile(path, pairFile({{"ա", "բ"}, {"", ""}}, kPairWidth));
-    e.OutputText = font("ամառ");
-    e.poqr_uxxumner1();
-    EXPECT_EQ(utf8(e.OutputText), "բմբռ");
+    EXPECT_EQ(repaired(e, "ամառ"), "բմբռ");
     writeFile(path, pairFile({{"ա", "գ"}, {"", ""}}, kPairWidth));
-    e.OutputText = font("ամառ");
-    e.poqr_uxxumner1();
-    EXPECT_EQ(utf8(e.OutputText), "բմբռ");
+    EXPECT_EQ(repaired(e, "ամառ"), "բմբռ");
 }
 
 TEST(SentenceEnd, TheTitleTellsTheTimeInBothLanguages) {
