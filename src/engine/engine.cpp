@@ -2,8 +2,8 @@
 #include "engine/engine.h"
 
 #include <array>
-#include <functional>
 #include <cstdint>
+#include <functional>
 #include <system_error>
 
 namespace vorlexa {

@@ -295,6 +295,7 @@ private:
     // when a program before it left it behind, so the end of a run deletes it only then.
     bool termsFileMayStand_ = true;
     void refuseUnknownWordQuestions();
+    int askUser(const Question& question);  // a question of the run, its terms on disk first
     bool scanTurn();  // one turn of the scanner; false when the scanner must leave
     void wordEndTail(int c);
     void sentenceEnd(unsigned char c);

@@ -46,9 +46,11 @@ constexpr std::string_view kIrregularVerbTag = "vi   ";
 constexpr auto kCountedVowels = [] {
     std::array<bool, 256> in{};
     constexpr std::string_view kVowels = "աեէիոըօև"_ft;
-    for (int c = 0; c < 256; ++c)
+    for (int c = 0; c < 256; ++c) {
+        const auto small = static_cast<char>(font::toSmall(static_cast<unsigned char>(c)));
         for (const char vowel : kVowels)
-            if (vowel == static_cast<char>(font::toSmall(static_cast<unsigned char>(c)))) in[static_cast<std::size_t>(c)] = true;
+            if (vowel == small) in[static_cast<std::size_t>(c)] = true;
+    }
     return in;
 }();
 bool isCountedVowel(unsigned char c) { return kCountedVowels[c]; }

@@ -217,8 +217,7 @@ void Engine::reportUnknownWord() {
             refuseUnknownWordQuestions();
         } else {
             host.setResultText(OutputText);
-            ensureTermsFile();
-            AnswerCode = host.ask(firstUnknownQuestion());
+            AnswerCode = askUser(firstUnknownQuestion());
             if (AnswerCode == kAnswerYes) {
                 FirstUnknownAnswer = kAnswerYes;
                 askEachWord = true;
@@ -231,8 +230,7 @@ void Engine::reportUnknownWord() {
     }
 
     if (askEachWord) {
-        ensureTermsFile();
-        AnswerCode = host.ask(perWordQuestion(RawWord, SpellMode == 1));
+        AnswerCode = askUser(perWordQuestion(RawWord, SpellMode == 1));
         if (AnswerCode == kAnswerYes) {
             // The add-word panel opens and the scanner leaves at this word's end; the run goes
             // on when the panel is saved.
@@ -279,9 +277,14 @@ void Engine::ArTr() {
     q.title = {"Warning", "Warning"};
     q.buttons = Buttons::YesNo;
     q.subject = RawWord;
-    ensureTermsFile();
-    AnswerCode = host.ask(q);
+    AnswerCode = askUser(q);
     if (AnswerCode == kAnswerYes) CTYD();
+}
+
+// A question hands control to the user: the run's terms stand in their file first.
+int Engine::askUser(const Question& question) {
+    ensureTermsFile();
+    return host.ask(question);
 }
 
 // The user does not want to be asked: a long text goes on unattended.

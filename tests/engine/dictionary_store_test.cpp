@@ -375,14 +375,17 @@ TEST(StoreFiles, AGridLargerThanOneReadIsHeldWholeWithItsRecordCutShort) {
     std::string bytes;
     constexpr int kRecords = 50'000;  // several reads of the opening buffer
     for (int i = 0; i < kRecords; ++i)
-        bytes += i % 97 == 0 ? DictRecord::make("w" + std::to_string(i), "x", "n").raw : std::string(kRecordLength, ' ');
+        bytes += i % 97 == 0 ? DictRecord::make("w" + std::to_string(i), "x", "n").raw
+                             : std::string(kRecordLength, ' ');
     bytes += "nul";
     dir.write("grid", bytes);
     RecordFile file;
     ASSERT_TRUE(file.open(dir.path() / "grid", kRecordLength));
     ASSERT_EQ(file.byteLength(), bytes.size());
     ASSERT_EQ(file.recordCount(), kRecords);
-    for (std::int64_t n = 1; n <= kRecords; ++n)
-        ASSERT_EQ(file.view(n), std::string_view(bytes).substr(static_cast<std::size_t>(n - 1) * kRecordLength, kRecordLength));
+    for (std::int64_t n = 1; n <= kRecords; ++n) {
+        const auto at = static_cast<std::size_t>(n - 1) * kRecordLength;
+        ASSERT_EQ(file.view(n), std::string_view(bytes).substr(at, kRecordLength));
+    }
     EXPECT_EQ(file.read(kRecords + 1), "nul" + std::string(kRecordLength - 3, ' '));
 }
